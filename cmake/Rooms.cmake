@@ -1,0 +1,42 @@
+# A room is a folder below src/ and one static library. Its headers are reached as "room/Header.h", and only by
+# those that link it: every room has an include folder of its own that holds nothing but a link to the room, so an
+# arrow that points the wrong way does not compile.
+
+add_library(norvanes_options INTERFACE)
+target_compile_options(norvanes_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+if(NORVANES_WERROR)
+  target_compile_options(norvanes_options INTERFACE -Werror)
+endif()
+if(NORVANES_SANITIZE)
+  target_compile_options(norvanes_options INTERFACE -fsanitize=${NORVANES_SANITIZE} -fno-sanitize-recover=all
+                                                    -fno-omit-frame-pointer)
+  target_link_options(norvanes_options INTERFACE -fsanitize=${NORVANES_SANITIZE})
+endif()
+
+# norvanes_room(name FOLDER folder SOURCES ... ROOMS ... [LINKS ...])
+function(norvanes_room name)
+  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;ROOMS;LINKS" ${ARGN})
+  set(doors ${CMAKE_BINARY_DIR}/rooms/${name})
+  cmake_path(GET ROOM_FOLDER PARENT_PATH above)
+  file(MAKE_DIRECTORY ${doors}/${above})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${ROOM_FOLDER} ${doors}/${ROOM_FOLDER} SYMBOLIC)
+  add_library(norvanes_${name} STATIC ${ROOM_SOURCES})
+  target_include_directories(norvanes_${name} PUBLIC ${doors})
+  list(TRANSFORM ROOM_ROOMS PREPEND norvanes_)
+  target_link_libraries(norvanes_${name} PUBLIC ${ROOM_ROOMS} PRIVATE norvanes_options)
+  if(ROOM_LINKS)
+    target_link_libraries(norvanes_${name} PUBLIC ${ROOM_LINKS})
+  endif()
+endfunction()
+
+# norvanes_test(name SOURCES ... ROOMS ...): one test executable for a room, every case known to ctest by its name.
+function(norvanes_test name)
+  cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS;LINKS" ${ARGN})
+  add_executable(test_${name} ${TEST_SOURCES})
+  list(TRANSFORM TEST_ROOMS PREPEND norvanes_)
+  target_link_libraries(test_${name} PRIVATE ${TEST_ROOMS} ${TEST_LINKS} norvanes_options GTest::gmock GTest::gtest
+                                             GTest::gtest_main)
+  target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
+endfunction()
+include(GoogleTest)

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/Clock.h"
+#include "core/Currency.h"
+#include "core/Date.h"
+#include "core/RegionalSettings.h"
+#include "core/Value.h"
+
+namespace norvane {
+
+// What never looks at the regional settings.
+
+/// The leading number of a text, 0 if there is none. Never fails.
+double Val(std::string_view text);
+/// `Val` rounded half to even to a whole number. Raises 6 out of range.
+std::int32_t ValLong(std::string_view text);
+/// Half to even. Raises 6 out of range.
+std::int32_t RoundToLong(double value);
+std::int32_t RoundToLong(Currency value);
+std::int16_t RoundToInteger(double value);
+std::int16_t RoundToInteger(Currency value);
+/// A whole number with leading zeros up to `digits`: 7 of 3 is "007".
+std::string PaddedText(std::int32_t value, int digits);
+/// Two-digit month, day and year with slashes, as the masked boxes hold them: "11/22/26".
+std::string MaskedDateText(Date date);
+
+/// How values are written into a statement: United States form whatever the machine's.
+namespace sql {
+std::string Text(std::int32_t value);
+std::string Text(double value);
+std::string Text(Currency value);
+/// The short date between hash signs.
+std::string Text(Date value);
+/// The word True or False.
+std::string Text(bool value);
+}  // namespace sql
+
+/// The conversions between text and values under the machine's regional settings.
+///
+/// "To..." takes the whole text and raises 13 if it is no number (or date) and 6 if it is out of range; from a Null it
+/// raises 94.
+class Conversions {
+ public:
+  Conversions(RegionalSettings settings, const Clock& clock);
+  const RegionalSettings& Settings() const { return settings_; }
+
+  std::int32_t ToLong(std::string_view text) const;
+  std::int16_t ToInteger(std::string_view text) const;
+  double ToDouble(std::string_view text) const;
+  Currency ToCurrency(std::string_view text) const;
+  Date ToDate(std::string_view text) const;
+  bool ToBoolean(std::string_view text) const;
+  bool IsDate(std::string_view text) const;
+  bool IsNumeric(std::string_view text) const;
+
+  std::int32_t ToLong(const Value& value) const;
+  std::int16_t ToInteger(const Value& value) const;
+  double ToDouble(const Value& value) const;
+  Currency ToCurrency(const Value& value) const;
+  Date ToDate(const Value& value) const;
+  bool ToBoolean(const Value& value) const;
+
+  /// The default text of a value; Null is the empty text.
+  std::string ToText(std::int32_t value) const;
+  std::string ToText(double value) const;
+  std::string ToText(Currency value) const;
+  std::string ToText(Date value) const;
+  std::string ToText(bool value) const;
+  std::string ToText(const Value& value) const;
+
+  /// The currency format: symbol, thousands separators, two decimals, ties away from zero on the decimal digits. Null
+  /// gives the empty text; a text is read as a number first and raises 13 if it is none.
+  std::string CurrencyText(Currency value) const;
+  std::string CurrencyText(double value) const;
+  std::string CurrencyText(std::string_view text) const;
+  std::string CurrencyText(const Value& value) const;
+
+  /// The format "0.00", ties away from zero.
+  std::string TwoDecimals(double value) const;
+  std::string LongDateText(Date date) const;
+  /// The format "hh:mm AMPM".
+  std::string ClockText(Date date) const;
+  /// Reads a masked date box: month first on every machine. Raises 13 for a half-filled mask or no such day.
+  Date ToDateFromMask(std::string_view text) const;
+
+ private:
+  RegionalSettings settings_;
+  const Clock& clock_;
+};
+
+}  // namespace norvane

@@ -21,19 +21,19 @@ class Recordset;
 /// opener sets them and shows the next screen, which reads them as it loads.
 struct Globals {
   // The selection.
-  std::int32_t CurCustNum = 0;    ///< 0 for none or a new client, -1 for all of them on the payments screen
+  std::int32_t CurCustNum = 0;  ///< 0 for none or a new client, -1 for all of them on the payments screen
   std::int32_t CurCatNum = 0;
-  std::int32_t CurInvoiceNum = 0; ///< 0 means a new invoice
+  std::int32_t CurInvoiceNum = 0;  ///< 0 means a new invoice
   Date CurInvoiceDate;
   std::string CurInvoiceDesc;
   std::string CurClientName;
   std::int32_t CurVendorNum = 0;
-  double ClientDiscount = 0;      ///< percent
+  double ClientDiscount = 0;  ///< percent
   std::int32_t ClientCount = 0;
 
   // Settings.
   std::string CoName;
-  double StateTaxRate = 0;        ///< percent
+  double StateTaxRate = 0;  ///< percent
   std::filesystem::path IniPath;
 
   // What a screen is to do when it opens or reloads.
@@ -41,8 +41,8 @@ struct Globals {
   bool ProfileLoaded = false;
   bool RefreshNeeded = false;
   std::int16_t AgingDays = 0;
-  bool InvoicesStale = false;     ///< a deletion of CurInvoiceNum is pending; the sales list carries it out
-  bool InventoryStale = false;    ///< a deletion of an item is pending; the inventory load carries it out
+  bool InvoicesStale = false;   ///< a deletion of CurInvoiceNum is pending; the sales list carries it out
+  bool InventoryStale = false;  ///< a deletion of an item is pending; the inventory load carries it out
   std::int32_t RowSelected = 0;
   bool PayClientSet = false;
   bool PayDateSet = false;

@@ -30,8 +30,7 @@ struct RegionalSettings {
   std::string pm = "PM";
   std::array<std::string, 12> monthNames = {"January", "February", "March",     "April",   "May",      "June",
                                             "July",    "August",   "September", "October", "November", "December"};
-  std::array<std::string, 7> dayNames = {"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                         "Thursday", "Friday", "Saturday"};
+  std::array<std::string, 7> dayNames = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
 
   /// The last year that a two-digit year can mean; the window is the hundred years up to it.
   int lastTwoDigitYear = 2029;

@@ -16,7 +16,9 @@ struct Null {
 /// What a field holds and what mixed arithmetic works on.
 using Value = std::variant<Null, std::int32_t, double, Currency, Date, bool, std::string>;
 
-inline bool IsNull(const Value& value) { return std::holds_alternative<Null>(value); }
+inline bool IsNull(const Value& value) {
+  return std::holds_alternative<Null>(value);
+}
 
 /// Mixed arithmetic: anything with a Null is a Null; Currency with Currency is Currency; Currency times or over a
 /// Double is a Double; any division is a Double; text plus a number is numeric, text plus text joins; a date plus a

@@ -14,11 +14,11 @@ class Reporter;
 /// What every record class works within. Owned by the program; nothing here is owned by whoever holds a reference.
 struct Workspace {
   Globals& globals;
-  Engine& engine;                            ///< the store
-  Reporter& reporter;                        ///< where trapped errors go
+  Engine& engine;      ///< the store
+  Reporter& reporter;  ///< where trapped errors go
   const Clock& clock;
-  const Conversions& convert;                ///< under the machine's regional settings
-  std::filesystem::path applicationFolder;   ///< holds norvane.mdb and norvane.ini
+  const Conversions& convert;               ///< under the machine's regional settings
+  std::filesystem::path applicationFolder;  ///< holds norvane.mdb and norvane.ini
 
   /// The application's folder followed by `name`, as in "norvane.mdb".
   std::filesystem::path File(const char* name) const { return applicationFolder / name; }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace norvane {
+
+class Form;
+
+namespace detail {
+/// Runs `body` as an event of `form`: not at all if the form is not loaded; an error that leaves it is shown by the
+/// runtime's box and ends there; forms unloaded meanwhile live until the outermost event has returned.
+void RunAsEvent(Form& form, const std::function<void()>& body);
+}  // namespace detail
+
+/// An event with the one handler that its form gave it, if any.
+template <class... Args>
+class Event {
+ public:
+  explicit Event(Form& form) : form_(form) {}
+  Event(const Event&) = delete;
+
+  template <class Handler>
+  Event& operator=(Handler handler) {
+    handler_ = std::move(handler);
+    return *this;
+  }
+  bool HasHandler() const { return handler_ != nullptr; }
+
+  /// Runs the handler to its end, nested events included, before it returns.
+  void Raise(Args... args) {
+    if (!handler_) return;
+    const auto handler = handler_;
+    detail::RunAsEvent(form_, [&] { handler(args...); });
+  }
+
+ private:
+  Form& form_;
+  std::function<void(Args...)> handler_;
+};
+
+}  // namespace norvane

@@ -1,0 +1,154 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Control.h"
+
+namespace norvane {
+
+/// The platform's key codes, as KeyDown delivers them.
+enum class Key : int {
+  Tab = 9,
+  Enter = 13,
+  Escape = 27,
+  Space = 32,
+  PageUp = 33,
+  PageDown = 34,
+  End = 35,
+  Home = 36,
+  Left = 37,
+  Up = 38,
+  Right = 39,
+  Down = 40,
+  F2 = 113,
+  F4 = 115,
+};
+
+struct KeyModifiers {
+  bool shift = false;
+  bool control = false;
+  bool alt = false;
+};
+
+/// Lists only show rows; row-editing grids are edited in place.
+enum class GridKind { List, Editable };
+enum class ColumnType : int { Plain = 0, Currency = 6, Date = 7, Boolean = 11 };
+enum class ColumnAlignment { General, Left, Centre, Right };
+/// What the cells of a column offer besides their text.
+enum class CellHelper { None, Button, DropDown, KeyedDropDown };
+
+/// Told of changes in a grid by whoever draws it. Every call comes after the change.
+class GridObserver {
+ public:
+  virtual ~GridObserver() = default;
+  virtual void ColumnsChanged() = 0;  ///< number, widths, headings, types, helpers
+  virtual void RowsReset() = 0;       ///< anything may have changed
+  virtual void RowsInserted(int first, int count) = 0;
+  virtual void RowsRemoved(int first, int count) = 0;
+  virtual void CellChanged(int row, int col) = 0;
+  virtual void CursorMoved() = 0;
+  virtual void TopRowChanged() = 0;
+  virtual void EditChanged() = 0;  ///< an edit began, its text changed by code, or it ended
+};
+
+/// A table of text with one heading row, a cursor and editing in place; complete without a display.
+///
+/// Row 0 is the heading, data rows start at 1, `Rows` counts the heading too. A cell, Row or Col outside raises 381.
+class Grid : public Control {
+ public:
+  Grid(Form& form, std::string name, GridKind kind);
+  ~Grid() override;
+  GridKind Kind() const;
+  bool TakesFocus() const override { return true; }
+
+  // The table.
+  int Rows() const;
+  void SetRows(int rows);
+  int Cols() const;
+  void SetCols(int cols);
+  /// "^Sel|Name|>Amount": number of columns, headings, alignment.
+  void SetFormatString(std::string_view format);
+  void SetColWidth(int col, Twips width);  ///< 0 hides the column; it still holds text
+  Twips ColWidth(int col) const;
+  void SetColDataType(int col, ColumnType type);
+  ColumnType ColDataType(int col) const;
+  ColumnAlignment Alignment(int col) const;
+  /// "..." gives a button, "a|b" a drop-down, "#3;a|#4;b" a keyed drop-down, "" takes it away.
+  void SetColComboList(int col, std::string_view list);
+  CellHelper Helper(int col) const;
+  /// The texts of a column's drop-down.
+  const std::vector<std::string>& DropDownItems(int col) const;
+
+  /// The content.
+  std::string Cell(int row, int col) const;
+  /// The text as displayed, which differs from the content in a keyed drop-down.
+  std::string DisplayText(int row, int col) const;
+  void SetCell(int row, int col, std::string_view text);
+  /// A row from a text with tabs between the cells, at the end or before `row`.
+  void AddItem(std::string_view cells);
+  void AddItem(std::string_view cells, int row);
+  void RemoveItem(int row);
+  /// Empties all cells, headings too; keeps Rows, Cols, widths and cursor.
+  void Clear();
+
+  // The cursor. Writing a value that differs raises LeaveCell, RowColChange, EnterCell.
+  int Row() const;
+  void SetRow(int row);
+  int Col() const;
+  void SetCol(int col);
+  int TopRow() const;
+  void SetTopRow(int row);
+  /// How many data rows the display shows; whoever draws sets it. Moves of a page and scrolling into view go by it.
+  void SetVisibleRows(int rows);
+  int VisibleRows() const;
+  /// Where the current cell stands within the grid.
+  Twips CellLeft() const;
+  Twips CellTop() const;
+  Twips CellWidth() const;
+
+  // Editing: what a user does to the current cell. BeginEdit is refused (false) where the cell cannot be edited.
+  enum class BeginBy { Typing, Command };
+  bool Editing() const;
+  bool BeginEdit(BeginBy by = BeginBy::Command);
+  const std::string& EditText() const;
+  void SetEditText(std::string text);
+  /// AfterEdit if the content changed.
+  void CommitEdit();
+  void CancelEdit();
+  /// Chooses an item of the current cell's drop-down: begins an edit if there is none, and commits.
+  void PickItem(int index);
+  void ToggleCheck();
+  void PressCellButton();
+
+  // The user at the mouse and the keyboard.
+  void UserClick(int row, int col);
+  void UserDoubleClick(int row, int col);
+  /// A key that is no character. False if the grid has no use for it (Tab after the last cell), so that the form may.
+  bool UserKey(Key key, KeyModifiers modifiers = {});
+  /// A character typed, in UTF-8: begins or continues an edit.
+  void UserText(std::string_view text);
+
+  Event<> LeaveCell{Parent()};
+  Event<> RowColChange{Parent()};
+  Event<> EnterCell{Parent()};
+  Event<int, int> BeforeEdit{Parent()};
+  Event<int, int> AfterEdit{Parent()};
+  Event<> Click{Parent()};
+  Event<> DblClick{Parent()};
+  Event<int> KeyDown{Parent()};
+  Event<int> KeyPress{Parent()};
+  Event<int, int> CellButtonClick{Parent()};
+
+  GridObserver* view = nullptr;
+
+ private:
+  void LosingFocus() override;
+  struct Model;
+  std::unique_ptr<Model> model_;
+};
+
+}  // namespace norvane

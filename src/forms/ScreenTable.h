@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane {
+
+class Form;
+class Program;
+
+struct ShowOptions {
+  Form* owner = nullptr;
+  bool modal = false;
+};
+
+/// The one way from screen to screen. A screen is a single instance under its name: made and loaded at the first touch,
+/// gone from here when it is unloaded, made anew at the next touch.
+class ScreenTable {
+ public:
+  explicit ScreenTable(Program& program) : program_(program) {}
+  ~ScreenTable();
+
+  /// Registers a screen class, which has a kName and a constructor from Program&.
+  template <class Screen>
+  void Add() {
+    AddFactory(Screen::kName, [](Program& program) { return std::make_shared<Screen>(program); });
+  }
+  void AddFactory(std::string_view name, std::function<std::shared_ptr<Form>(Program&)> factory);
+  /// Registers what isn't a screen but is called across rooms.
+  void AddAction(std::string_view name, std::function<void()> action);
+
+  /// Whether a screen or an action of that name is there at all.
+  bool Has(std::string_view name) const;
+
+  /// Loads the screen if it isn't, as any use of it does.
+  Form& Touch(std::string_view name);
+  template <class Screen>
+  Screen& Touch() {
+    return static_cast<Screen&>(Touch(Screen::kName));
+  }
+  /// Never loads; nothing if the screen isn't loaded.
+  Form* Find(std::string_view name) const;
+  template <class Screen>
+  Screen* Find() const {
+    return static_cast<Screen*>(Find(Screen::kName));
+  }
+
+  /// Loads if need be, makes visible, Form_Resize, then the focus; brings a visible one forward. A modal show returns
+  /// when the form is gone; of a form that is visible already it returns at once.
+  void Show(std::string_view name, ShowOptions options = {});
+  /// Nothing happens if it isn't loaded.
+  void Unload(std::string_view name);
+  void Run(std::string_view action);
+
+  /// All loaded forms, in the order of loading.
+  std::vector<Form*> Loaded() const;
+  /// Names of all screens registered.
+  std::vector<std::string> Names() const;
+
+ private:
+  friend class Program;
+  friend class Form;
+  Program& program_;
+  std::map<std::string, std::function<std::shared_ptr<Form>(Program&)>, std::less<>> factories_;
+  std::map<std::string, std::function<void()>, std::less<>> actions_;
+  std::vector<std::shared_ptr<Form>> loaded_;
+  std::shared_ptr<Form> unloadedMain_;  ///< the main screen keeps its controls readable until the program ends
+};
+
+}  // namespace norvane

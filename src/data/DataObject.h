@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "core/Object.h"
+#include "core/Trap.h"
+#include "core/Workspace.h"
+#include "core/store/Command.h"
+#include "core/store/Connection.h"
+#include "core/store/Recordset.h"
+
+namespace norvane {
+
+/// The database's name within the application's folder.
+inline constexpr const char* kDatabaseFile = "norvane.mdb";
+
+/// What all record classes share: a connection of their own, and the few ways of reading and writing through it.
+///
+/// Callers bracket every use with OpenCn and CloseCn, so that the file is closed between operations. An operation
+/// reports its own errors under its label and returns what it had by then: nothing, zero or an empty text.
+class DataObject {
+ public:
+  DataObject(const DataObject&) = delete;
+  DataObject& operator=(const DataObject&) = delete;
+
+  /// Names the database file to work on. Opens nothing.
+  void InitAccess(const std::filesystem::path& database);
+  /// Names a server's database instead.
+  void Init(const std::string& userId, const std::string& password, const std::string& database,
+            const std::string& server);
+  /// Opens the connection if it is closed. A failure isn't told here: it is the error of the first statement after it.
+  void OpenCn();
+  /// Closes the connection, however often it was opened before.
+  void CloseCn();
+
+ protected:
+  explicit DataObject(Workspace& workspace);
+  ~DataObject() = default;
+
+  /// Runs `body` under the standard trap. True if it came to its end.
+  template <class Body>
+  bool Trapped(std::string_view label, Body&& body) const {
+    return Trap(workspace_.reporter, label, std::forward<Body>(body));
+  }
+
+  /// What `body` returns, or after a report the zero, empty text or nothing of its type.
+  template <class Body>
+  std::invoke_result_t<Body> Result(std::string_view label, Body&& body) const {
+    std::invoke_result_t<Body> result{};
+    Trapped(label, [&] { result = body(); });
+    return result;
+  }
+
+  /// Reads rows for a caller: a copy that stays readable after CloseCn and belongs to the caller.
+  Object<Recordset> Detached(std::string_view statement);
+  /// `Detached` under the trap; nothing after a report.
+  Object<Recordset> List(std::string_view label, std::string_view statement);
+
+  /// Reads rows for the operation itself, on the first of them.
+  std::unique_ptr<Recordset> Read(std::string_view statement);
+  /// Rows that may be changed in place with SetField and Update.
+  std::unique_ptr<Recordset> ReadToUpdate(std::string_view statement);
+  /// Runs a statement that returns no rows.
+  void Run(std::string_view statement);
+  /// Saves a row whole: the old one goes, the new one comes. Nothing binds the two, so an insert that is refused leaves
+  /// the row deleted.
+  void Replace(std::string_view deletion, std::string_view insertion);
+  /// The key after the highest present, `statement` selecting that as HighNum; the one after `base` in an empty table.
+  /// A highest key that was deleted is given out again. Raises 6 past the last Long.
+  std::int32_t NextKey(std::string_view statement, std::int32_t base = 1000);
+  /// Runs a stored procedure of the server's.
+  void RunProcedure(std::string_view name, std::initializer_list<Parameter> parameters);
+
+  Workspace& workspace_;
+  Connection connection_;
+  /// The rows read last for a caller, shared with that caller.
+  Object<Recordset> recordset_;
+
+ private:
+  std::string connectionString_;
+};
+
+/// A text field that must not be Null: raises 94 if it is.
+std::string RequiredText(const Recordset& rows, std::string_view field);
+/// A sum, 0 if there was nothing to add up.
+Currency SumOrZero(const Recordset& rows, std::string_view field);
+
+}  // namespace norvane

@@ -29,14 +29,26 @@ function(norvanes_room name)
   endif()
 endfunction()
 
-# norvanes_test(name SOURCES ... ROOMS ...): one test executable for a room, every case known to ctest by its name.
+# norvanes_test(name SOURCES ... ROOMS ... [LINKS ...] [ENVIRONMENT ...]): one test executable for a room, every case
+# known to ctest by its name.
 function(norvanes_test name)
-  cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS;LINKS" ${ARGN})
+  cmake_parse_arguments(TEST "" "" "SOURCES;ROOMS;LINKS;ENVIRONMENT" ${ARGN})
   add_executable(test_${name} ${TEST_SOURCES})
   list(TRANSFORM TEST_ROOMS PREPEND norvanes_)
   target_link_libraries(test_${name} PRIVATE ${TEST_ROOMS} ${TEST_LINKS} norvanes_options GTest::gmock GTest::gtest
                                              GTest::gtest_main)
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT 300 ENVIRONMENT "${TEST_ENVIRONMENT}")
+endfunction()
+
+# norvanes_window_test(name ...): as norvanes_test, for tests of the real windows. Each case runs offscreen, and all of
+# them once more on a virtual X display, where focus and activation are the ones a user meets.
+function(norvanes_window_test name)
+  norvanes_test(${name} ${ARGN} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+  find_program(NORVANES_XVFB_RUN xvfb-run REQUIRED)
+  add_test(NAME ${name}.x11 COMMAND ${NORVANES_XVFB_RUN} --auto-servernum --server-args "-screen 0 1600x1200x24"
+                                    $<TARGET_FILE:test_${name}>)
+  set_tests_properties(${name}.x11 PROPERTIES TIMEOUT 900 RESOURCE_LOCK display ENVIRONMENT QT_QPA_PLATFORM=xcb)
 endfunction()
 include(GoogleTest)

@@ -35,6 +35,9 @@ class cSetup : public DataObject {
   /// Type and option are the key: a pair that exists gets the new charge.
   void SaveShippingType(const std::string& shipType, const std::string& shipOption, Currency charge);
   void DeleteShippingType(const std::string& shipType, const std::string& shipWeight);
+
+ private:
+  static std::string ShippingDeletion(const std::string& service, const std::string& option);
 };
 
 }  // namespace norvane

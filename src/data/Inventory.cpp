@@ -1,0 +1,108 @@
+#include "data/Inventory.h"
+
+#include "data/Statement.h"
+
+namespace norvane {
+
+namespace {
+
+/// Raises 6 past a Long's range.
+std::int32_t Minus(std::int32_t a, std::int32_t b) {
+  return RoundToLong(static_cast<double>(a) - b);
+}
+
+}  // namespace
+
+Object<Recordset> Inventory::rsInventory(std::int32_t category) {
+  return List("Inventory.rsInventory -",
+              sql::Statement("select * from tb_Inventory where CatNum = ", category, " order by itemnum"));
+}
+
+Object<Recordset> Inventory::rsCategories() {
+  return List("Inventory.rsCategories -", "select catnum, description from tb_InvCategories order by catnum");
+}
+
+void Inventory::GetItem(std::int32_t itemNumber) {
+  Trapped("Inventory.GetItem -", [&] {
+    const auto row = Read(sql::Statement("select * from tb_Inventory where ItemNum = ", itemNumber));
+    if (row->Eof()) {
+      ItemNum = NewItemNum();
+      Category = 1;
+      description.clear();
+      charge = Currency();
+      Par = 0;
+      InStock = 0;
+    } else {
+      ItemNum = row->Long("ItemNum");
+      Category = row->Long("CatNum");
+      description = RequiredText(*row, "description");
+      charge = row->Currency("charge");
+      Par = row->Long("Par");
+      InStock = row->Long("InStock");
+    }
+  });
+}
+
+void Inventory::SaveItemAccess(std::int32_t& itemNum) {
+  Trapped("Inventory.SaveItemAccess -", [&] {
+    if (itemNum == 0) itemNum = NewItemNum();
+    ItemNum = itemNum;
+    Replace(sql::Statement("Delete * from tb_Inventory where ItemNum = ", ItemNum),
+            sql::Insert("Insert into tb_Inventory (ItemNum, CatNum, Description,charge,par,instock,warranty) values (",
+                        ItemNum, Category, description, charge, Par, InStock, Warranty));
+  });
+}
+
+void Inventory::SaveItem() {
+  RunProcedure("sp_insert_Inventory", {{"@ItemNum", ParameterType::Integer, 0, ItemNum},
+                                       {"@Description", ParameterType::Char, 256, description},
+                                       {"@Charge", ParameterType::Currency, 0, charge},
+                                       {"@Par", ParameterType::Integer, 0, Par},
+                                       {"@InStock", ParameterType::Integer, 0, InStock}});
+}
+
+void Inventory::DeleteItem(std::int32_t itemNumber) {
+  Trapped("Inventory.DeleteItem -",
+          [&] { Run(sql::Statement("delete * from tb_inventory where ItemNum = ", itemNumber)); });
+}
+
+void Inventory::SaveCategory(std::int32_t catNum, const std::string& text) {
+  Trapped("Inventory.SaveCategory -", [&] {
+    CatNum = catNum == 0 ? NewCategoryNum() : catNum;
+    Replace(sql::Statement("Delete * from tb_InvCategories where CatNum = ", CatNum),
+            sql::Insert("Insert into tb_InvCategories (CatNum, Description) values (", CatNum, text));
+  });
+}
+
+void Inventory::DeleteCategory(std::int32_t catNumber) {
+  Trapped("Inventory.DeleteCategory -", [&] {
+    Run(sql::Statement("delete * from tb_invCategories where CatNum = ", catNumber));
+    Run(sql::Statement("delete * from tb_inventory where CatNum = ", catNumber));
+  });
+}
+
+std::int32_t Inventory::QtyInStock(std::int32_t itemNumber, std::int32_t currentQuantity, std::int32_t newQuantity) {
+  std::int32_t result = 0;
+  Trapped("Inventory.QtyInStock -", [&] {
+    const auto item = ReadToUpdate(sql::Statement("select * from tb_inventory where ItemNum = ", itemNumber));
+    if (item->Long("Par") > 0) {
+      result = Minus(item->Long("InStock"), Minus(newQuantity, currentQuantity));
+      item->SetField("InStock", result);
+      item->Update();
+    } else {
+      result = kNotCounted;
+    }
+  });
+  return result;
+}
+
+std::int32_t Inventory::NewItemNum() {
+  return Result("Inventory.NewItemNum -", [&] { return NextKey("select max(ItemNum) as HighNum from tb_Inventory"); });
+}
+
+std::int32_t Inventory::NewCategoryNum() {
+  return Result("Inventory.NewCategoryNum -",
+                [&] { return NextKey("select max(catNum) as HighNum from tb_Invcategories", 0); });
+}
+
+}  // namespace norvane

@@ -6,7 +6,7 @@
 #include "core/Currency.h"
 #include "core/Date.h"
 #include "data/DataObject.h"
-#include "data/NumberText.h"
+#include "data/KeyText.h"
 
 namespace norvane {
 
@@ -20,8 +20,8 @@ class Invoice : public DataObject {
   explicit Invoice(Workspace& workspace);
 
   // The invoice.
-  NumberText InvoiceNum;
-  NumberText CustNum;
+  KeyText InvoiceNum;
+  KeyText CustNum;
   Date InvoiceDate;
   std::string description;
   double Discount = 0;  ///< percent of the lines

@@ -5,12 +5,12 @@
 
 namespace norvane {
 
-/// A whole number held as its text, empty until one is written. Reading it while it is empty raises 13; joined into a
+/// A key held as its text, empty until one is written. Reading it while it is empty raises 13; joined into a
 /// statement it leaves a gap there, which the store refuses.
-class NumberText {
+class KeyText {
  public:
-  NumberText() = default;
-  NumberText& operator=(std::int32_t number);
+  KeyText() = default;
+  KeyText& operator=(std::int32_t number);
   operator std::int32_t() const;
 
   const std::string& Text() const { return text_; }

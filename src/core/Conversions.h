@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -37,7 +38,12 @@ std::string Text(Currency value);
 std::string Text(Date value);
 /// The word True or False.
 std::string Text(bool value);
+std::string Text(const char*) = delete;
 }  // namespace sql
+
+/// What converts as a value rather than as a text.
+template <class T>
+concept NotText = std::convertible_to<const T&, Value> && !std::convertible_to<const T&, std::string_view>;
 
 /// The conversions between text and values under the machine's regional settings.
 ///
@@ -45,6 +51,7 @@ std::string Text(bool value);
 /// raises 94.
 class Conversions {
  public:
+  /// `clock` gives a date without a year its year. It is kept by reference.
   Conversions(RegionalSettings settings, const Clock& clock);
   const RegionalSettings& Settings() const { return settings_; }
 
@@ -57,12 +64,12 @@ class Conversions {
   bool IsDate(std::string_view text) const;
   bool IsNumeric(std::string_view text) const;
 
-  std::int32_t ToLong(const Value& value) const;
-  std::int16_t ToInteger(const Value& value) const;
-  double ToDouble(const Value& value) const;
-  Currency ToCurrency(const Value& value) const;
-  Date ToDate(const Value& value) const;
-  bool ToBoolean(const Value& value) const;
+  std::int32_t ToLong(const NotText auto& value) const { return LongOf(value); }
+  std::int16_t ToInteger(const NotText auto& value) const { return IntegerOf(value); }
+  double ToDouble(const NotText auto& value) const { return DoubleOf(value); }
+  Currency ToCurrency(const NotText auto& value) const { return CurrencyOf(value); }
+  Date ToDate(const NotText auto& value) const { return DateOf(value); }
+  bool ToBoolean(const NotText auto& value) const { return BooleanOf(value); }
 
   /// The default text of a value; Null is the empty text.
   std::string ToText(std::int32_t value) const;
@@ -71,13 +78,14 @@ class Conversions {
   std::string ToText(Date value) const;
   std::string ToText(bool value) const;
   std::string ToText(const Value& value) const;
+  std::string ToText(const char*) const = delete;
 
   /// The currency format: symbol, thousands separators, two decimals, ties away from zero on the decimal digits. Null
   /// gives the empty text; a text is read as a number first and raises 13 if it is none.
   std::string CurrencyText(Currency value) const;
   std::string CurrencyText(double value) const;
   std::string CurrencyText(std::string_view text) const;
-  std::string CurrencyText(const Value& value) const;
+  std::string CurrencyText(const NotText auto& value) const { return CurrencyTextOf(value); }
 
   /// The format "0.00", ties away from zero.
   std::string TwoDecimals(double value) const;
@@ -88,6 +96,15 @@ class Conversions {
   Date ToDateFromMask(std::string_view text) const;
 
  private:
+  std::int32_t LongOf(const Value& value) const;
+  std::int16_t IntegerOf(const Value& value) const;
+  double DoubleOf(const Value& value) const;
+  Currency CurrencyOf(const Value& value) const;
+  Date DateOf(const Value& value) const;
+  bool BooleanOf(const Value& value) const;
+  std::string CurrencyTextOf(const Value& value) const;
+  int ThisYear() const { return clock_.Now().Year(); }
+
   RegionalSettings settings_;
   const Clock& clock_;
 };

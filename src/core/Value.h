@@ -20,12 +20,16 @@ inline bool IsNull(const Value& value) {
   return std::holds_alternative<Null>(value);
 }
 
-/// Mixed arithmetic: anything with a Null is a Null; Currency with Currency is Currency; Currency times or over a
-/// Double is a Double; any division is a Double; text plus a number is numeric, text plus text joins; a date plus a
-/// number is a date. Out of range raises 6, division by zero 11, text that is no number 13.
-Value Add(const Value& a, const Value& b);
-Value Subtract(const Value& a, const Value& b);
-Value Multiply(const Value& a, const Value& b);
-Value Divide(const Value& a, const Value& b);
+class Conversions;
+
+/// Mixed arithmetic: anything with a Null is a Null. A text is read as a number under the machine's settings, except
+/// that text plus text joins; text that is no number raises 13. Whole numbers and Booleans (-1 and 0) give a Long. A
+/// date plus or minus a number is a date, the difference of dates a Double. A sum with a Currency in it is Currency;
+/// Currency times Currency or Long is Currency, times a Double it is a Double. Any division is a Double. Out of the
+/// result's range raises 6, division by zero 11.
+Value Add(const Value& a, const Value& b, const Conversions& convert);
+Value Subtract(const Value& a, const Value& b, const Conversions& convert);
+Value Multiply(const Value& a, const Value& b, const Conversions& convert);
+Value Divide(const Value& a, const Value& b, const Conversions& convert);
 
 }  // namespace norvane

@@ -1,0 +1,95 @@
+#include "core/WholeFile.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace norvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr mode_t kNewFileMode = 0666;  // less what the process masks
+
+class FileHandle {
+ public:
+  explicit FileHandle(int handle) : handle_(handle) {}
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  ~FileHandle() { Close(); }
+
+  explicit operator bool() const { return handle_ >= 0; }
+  int Get() const { return handle_; }
+  bool Close() { return handle_ < 0 || ::close(std::exchange(handle_, -1)) == 0; }
+
+ private:
+  int handle_;
+};
+
+/// Reads or writes go on until done: one that a signal cuts short has done a part or nothing.
+bool ReadAll(int handle, std::string& content) {
+  char buffer[4096];
+  while (true) {
+    const ssize_t count = ::read(handle, buffer, sizeof buffer);
+    if (count > 0) content.append(buffer, static_cast<std::size_t>(count));
+    if (count == 0) return true;
+    if (count < 0 && errno != EINTR) return false;
+  }
+}
+
+bool WriteAll(int handle, std::string_view content) {
+  while (!content.empty()) {
+    const ssize_t count = ::write(handle, content.data(), content.size());
+    if (count < 0 && errno != EINTR) return false;
+    if (count > 0) content.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
+bool WriteNewFile(const fs::path& file, std::string_view content, const struct stat* model) {
+  FileHandle handle(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode));
+  if (!handle) return false;
+  if (model && ::fchmod(handle.Get(), model->st_mode & 07777) != 0) return false;
+  return WriteAll(handle.Get(), content) && ::fsync(handle.Get()) == 0 && handle.Close();
+}
+
+/// Makes the renaming last. Where a folder cannot be synchronised the new file stands all the same.
+void SynchronizeFolder(const fs::path& folder) {
+  const FileHandle handle(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (handle) ::fsync(handle.Get());
+}
+
+}  // namespace
+
+std::optional<std::string> ReadWholeFile(const fs::path& file) {
+  // Not blocking, so that a pipe of that name is refused instead of waited for.
+  const FileHandle handle(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  struct stat status = {};
+  if (!handle || ::fstat(handle.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  std::string content;
+  if (!ReadAll(handle.Get(), content)) return std::nullopt;
+  return content;
+}
+
+bool ReplaceWholeFile(const fs::path& file, std::string_view content) {
+  std::error_code error;
+  const fs::path resolved = fs::canonical(file, error);
+  const fs::path target = error ? file : resolved;
+  struct stat status = {};
+  const bool exists = ::stat(target.c_str(), &status) == 0;
+  if (exists && (!S_ISREG(status.st_mode) || ::access(target.c_str(), W_OK) != 0)) return false;
+  fs::path beside = target;
+  beside += "." + std::to_string(::getpid()) + ".new";
+  // Left by a process of that number that did not end well.
+  ::unlink(beside.c_str());
+  if (!WriteNewFile(beside, content, exists ? &status : nullptr) || ::rename(beside.c_str(), target.c_str()) != 0) {
+    ::unlink(beside.c_str());
+    return false;
+  }
+  SynchronizeFolder(target.parent_path());
+  return true;
+}
+
+}  // namespace norvane

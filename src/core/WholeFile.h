@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+/// The bytes of a regular file; nothing if there is none or it cannot be read.
+std::optional<std::string> ReadWholeFile(const std::filesystem::path& file);
+
+/// Puts `content` in the place of the file, or makes it: written beside, synchronised and renamed, so that a crash
+/// leaves the old or the new one. Keeps the file's mode and follows a link. False, and the old file as it was, if that
+/// is not possible or the file is read-only.
+bool ReplaceWholeFile(const std::filesystem::path& file, std::string_view content);
+
+}  // namespace norvane

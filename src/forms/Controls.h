@@ -69,9 +69,9 @@ class MaskedBox : public Control {
 
 /// How a button looks and which keys press it.
 struct ButtonStyle {
-  std::string caption;  ///< "&" marks the accelerator; empty for a picture button
-  std::string toolTip;
-  std::string icon;        ///< name of a picture of resources/icons, without ending
+  std::string caption = {};  ///< "&" marks the accelerator; empty for a picture button
+  std::string toolTip = {};
+  std::string icon = {};   ///< name of a picture of resources/icons, without ending
   bool isDefault = false;  ///< Enter presses it, but never from within a grid
   bool isCancel = false;   ///< Escape presses it
 };

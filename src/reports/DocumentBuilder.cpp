@@ -33,18 +33,26 @@ void DocumentBuilder::EndDocument() {
   open_ = false;
 }
 
-void DocumentBuilder::NewPage() { Open().elements.emplace_back(PageBreak{}); }
+void DocumentBuilder::NewPage() {
+  Open().elements.emplace_back(PageBreak{});
+}
 
-void DocumentBuilder::SetHeader(std::string_view text) { Open().header = text; }
+void DocumentBuilder::SetHeader(std::string_view text) {
+  Open().header = text;
+}
 
-void DocumentBuilder::SetFooter(std::string_view text) { Open().footer = text; }
+void DocumentBuilder::SetFooter(std::string_view text) {
+  Open().footer = text;
+}
 
 void DocumentBuilder::SetFontSize(double points) {
   if (!(points > 0)) Raise(ErrorNumber::InvalidProcedureCall);
   font_.size = static_cast<float>(points);
 }
 
-void DocumentBuilder::SetFontSize(std::string_view points) { SetFontSize(NumberOf(points)); }
+void DocumentBuilder::SetFontSize(std::string_view points) {
+  SetFontSize(NumberOf(points));
+}
 
 void DocumentBuilder::WriteParagraph(std::string_view text) {
   Open().elements.emplace_back(Paragraph{std::string(text), font_, alignment_});
@@ -52,8 +60,8 @@ void DocumentBuilder::WriteParagraph(std::string_view text) {
 
 void DocumentBuilder::WriteTextBox(std::string_view text, std::string_view left, std::string_view top,
                                    std::string_view width, std::string_view height) {
-  Open().elements.emplace_back(TextBox{std::string(text), PointsOf(left), PointsOf(top), PointsOf(width),
-                                       PointsOf(height), font_, alignment_});
+  Open().elements.emplace_back(
+      TextBox{std::string(text), PointsOf(left), PointsOf(top), PointsOf(width), PointsOf(height), font_, alignment_});
 }
 
 void DocumentBuilder::StartTable() {
@@ -61,7 +69,9 @@ void DocumentBuilder::StartTable() {
   table_.emplace();
 }
 
-void DocumentBuilder::SetTableBorder(TableBorder border) { OpenTable().border = border; }
+void DocumentBuilder::SetTableBorder(TableBorder border) {
+  OpenTable().border = border;
+}
 
 void DocumentBuilder::AddTable(std::string_view format, std::string_view heading, std::string_view body) {
   Table& table = OpenTable();

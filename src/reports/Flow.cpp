@@ -22,7 +22,9 @@ double Aligned(Alignment alignment, double left, double right, double width) {
   return alignment == Alignment::Right ? right - width : (left + right - width) / 2;
 }
 
-double Body::Place(Alignment alignment, double width) const { return Aligned(alignment, left, right, width); }
+double Body::Place(Alignment alignment, double width) const {
+  return Aligned(alignment, left, right, width);
+}
 
 Flow::Flow(const Document& document, const FontMetrics& metrics)
     : ruler_(metrics),
@@ -33,7 +35,9 @@ Flow::Flow(const Document& document, const FontMetrics& metrics)
   NewPage();
 }
 
-bool Flow::NeedsNewPage(double height) const { return height > Room() + kTolerance && position_ > body_.top; }
+bool Flow::NeedsNewPage(double height) const {
+  return height > Room() + kTolerance && position_ > body_.top;
+}
 
 void Flow::NewPage() {
   if (writer_.HasPage()) EndPage();

@@ -24,6 +24,8 @@ inline constexpr Font kBodyFont{{Family::Arial, false}, 11.25F};
 /// Headers and footers; nothing that is set for the body touches it.
 inline constexpr Font kHeaderFont{{Family::CourierNew, false}, 14.25F};
 
-inline constexpr const char* FamilyName(Family family) { return family == Family::Arial ? "Arial" : "Courier New"; }
+inline constexpr const char* FamilyName(Family family) {
+  return family == Family::Arial ? "Arial" : "Courier New";
+}
 
 }  // namespace norvane::pages

@@ -36,9 +36,13 @@ void Place(Flow& flow, const TextBox& box) {
   flow.ContinueBelowBox(box.top + box.height);
 }
 
-void Place(Flow& flow, const PageBreak&) { flow.NewPage(); }
+void Place(Flow& flow, const PageBreak&) {
+  flow.NewPage();
+}
 
-void Place(Flow& flow, const Table& table) { PlaceTable(flow, table); }
+void Place(Flow& flow, const Table& table) {
+  PlaceTable(flow, table);
+}
 
 }  // namespace
 

@@ -40,7 +40,9 @@ std::vector<Column> ReadTableFormat(std::string_view format) {
   return columns;
 }
 
-std::string_view ReadTableHeading(std::string_view heading) { return TakeUntil(heading, kRowEnd); }
+std::string_view ReadTableHeading(std::string_view heading) {
+  return TakeUntil(heading, kRowEnd);
+}
 
 bool TakeRow(std::string_view& body, std::string_view& cells) {
   if (body.empty()) return false;
@@ -48,6 +50,8 @@ bool TakeRow(std::string_view& body, std::string_view& cells) {
   return true;
 }
 
-std::string_view TakeCell(std::string_view& cells) { return TakeUntil(cells, kCellEnd); }
+std::string_view TakeCell(std::string_view& cells) {
+  return TakeUntil(cells, kCellEnd);
+}
 
 }  // namespace norvane::pages

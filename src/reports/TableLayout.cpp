@@ -176,6 +176,8 @@ class TablePlacer {
 
 }  // namespace
 
-void PlaceTable(Flow& flow, const Table& table) { TablePlacer(flow, table).Run(); }
+void PlaceTable(Flow& flow, const Table& table) {
+  TablePlacer(flow, table).Run();
+}
 
 }  // namespace norvane::pages

@@ -33,7 +33,7 @@ class Ruling {
     const std::size_t end = part_.edges.size() - 1;
     for (std::size_t i = 1; i <= end; ++i) {
       const bool strong = i == end || (i == 1 && part_.hasHeading);
-      strong ? Across(part_.edges[i], kFrame) : Across(part_.edges[i], kHairline, kHairlineGrey);
+      Across(part_.edges[i], strong ? kFrame : kHairline, strong ? 0 : kHairlineGrey);
     }
   }
 
@@ -62,10 +62,17 @@ class Ruling {
 void DrawRules(PageWriter& writer, const Table& table, const TablePart& part) {
   Ruling ruling(writer, table, part);
   switch (table.border) {
-    case TableBorder::None: break;
-    case TableBorder::Totals: ruling.Totals(); break;
-    case TableBorder::Grid: ruling.Grid(); break;
-    case TableBorder::List: ruling.List(); break;
+    case TableBorder::None:
+      break;
+    case TableBorder::Totals:
+      ruling.Totals();
+      break;
+    case TableBorder::Grid:
+      ruling.Grid();
+      break;
+    case TableBorder::List:
+      ruling.List();
+      break;
   }
 }
 

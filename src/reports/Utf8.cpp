@@ -14,7 +14,9 @@ std::size_t LengthByFirstByte(unsigned char byte) {
   return 0;
 }
 
-bool IsBetween(char32_t code, char32_t first, char32_t last) { return code >= first && code <= last; }
+bool IsBetween(char32_t code, char32_t first, char32_t last) {
+  return code >= first && code <= last;
+}
 
 bool BelongsToTheOneBefore(char32_t code) {
   return IsBetween(code, 0x0300, 0x036F) || IsBetween(code, 0x0591, 0x05C7) || IsBetween(code, 0x064B, 0x065F) ||

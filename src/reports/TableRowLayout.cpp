@@ -60,6 +60,7 @@ void RowMeasurer::MeasureCell(std::string_view text, const Column& column, Font 
 
 // A word or an amount that is too wide for its column is set smaller before it is broken.
 float RowMeasurer::SizeForWords(std::string_view text, const Font& font, double room) {
+  if (ruler_.Width(font.face, text) * font.size <= room) return font.size;
   const double widest = WidestWord(ruler_, font.face, text);
   const float smallest = std::min(table_.font.size * kSmallestShareForWord, font.size);
   float size = font.size;

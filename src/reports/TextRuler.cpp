@@ -19,6 +19,7 @@ bool IsCombiningOrControl(char32_t code) {
 }
 
 std::size_t SlotOf(char32_t code) {
+  if (code < 0x80) return code;
   if (IsCombiningOrControl(code)) return kNoSlot;
   if (code < kEndOfLetters) return code;
   return code >= kFirstSign && code < kEndOfSigns ? code - kFirstSign + kEndOfLetters : kNoSlot;
@@ -37,21 +38,20 @@ TextRuler::TextRuler(const FontMetrics& metrics) : metrics_(metrics) {
 }
 
 double TextRuler::Width(Face face, std::string_view text) {
+  std::vector<float>& widths = faces_[Index(face)].widths;
   double width = 0;
   for (std::size_t place = 0; place < text.size();) {
     const Character character = CharacterAt(text, place);
     const std::size_t slot = SlotOf(character.code);
     if (slot == kNoSlot) return metrics_.Advance(face, text);
-    width += CharacterWidth(face, slot, text.substr(place, character.length));
+    // Tabs and their like are set as blanks.
+    if (widths[slot] < 0) {
+      const std::string_view shown = slot < ' ' ? " " : text.substr(place, character.length);
+      widths[slot] = static_cast<float>(metrics_.Advance(face, shown));
+    }
+    width += widths[slot];
     place += character.length;
   }
-  return width;
-}
-
-double TextRuler::CharacterWidth(Face face, std::size_t slot, std::string_view character) {
-  float& width = faces_[Index(face)].widths[slot];
-  // Tabs and their like are set as blanks.
-  if (width < 0) width = static_cast<float>(metrics_.Advance(face, slot < ' ' ? " " : character));
   return width;
 }
 

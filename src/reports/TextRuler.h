@@ -31,7 +31,6 @@ class TextRuler {
 
   static std::size_t Index(Face face) { return static_cast<std::size_t>(face.family) * 2 + (face.bold ? 1 : 0); }
   const KnownFace& Known(Face face) const { return faces_[Index(face)]; }
-  double CharacterWidth(Face face, std::size_t slot, std::string_view character);
 
   const FontMetrics& metrics_;
   std::array<KnownFace, 4> faces_;

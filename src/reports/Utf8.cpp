@@ -7,7 +7,6 @@ constexpr Character kDamaged{0xFFFD, 1};
 constexpr char32_t kJoiner = 0x200D;
 
 std::size_t LengthByFirstByte(unsigned char byte) {
-  if (byte < 0x80) return 1;
   if (byte >= 0xC2 && byte < 0xE0) return 2;
   if (byte >= 0xE0 && byte < 0xF0) return 3;
   if (byte >= 0xF0 && byte < 0xF5) return 4;
@@ -26,10 +25,9 @@ bool BelongsToTheOneBefore(char32_t code) {
 
 }  // namespace
 
-Character CharacterAt(std::string_view text, std::size_t place) {
+Character internal::LongCharacterAt(std::string_view text, std::size_t place) {
   const auto first = static_cast<unsigned char>(text[place]);
   const std::size_t length = LengthByFirstByte(first);
-  if (length == 1) return {first, 1};
   if (length == 0 || place + length > text.size()) return kDamaged;
   char32_t code = first & (0xFFU >> (length + 1));
   for (std::size_t i = 1; i < length; ++i) {

@@ -56,7 +56,8 @@ class MaskedBox : public Control {
  public:
   MaskedBox(Form& form, std::string name) : Control(form, std::move(name)) {}
   const std::string& Text() const { return text_; }
-  /// Fits the text into the mask; "" empties it to "__/__/__". Raises Change if the text differs.
+  /// Fits the text into the mask: digits fall into the places, a slash ends a place (a lone digit gets its zero), the
+  /// century of a four-digit year is left out; "" empties it to "__/__/__". Raises Change if the text differs.
   void SetText(const std::string& text);
   bool TakesFocus() const override { return true; }
   void UserType(const std::string& text);
@@ -244,7 +245,8 @@ class Timer : public Control {
   Timer(Form& form, std::string name, int milliseconds, bool enabled);
   ~Timer() override;
   int Interval() const { return milliseconds_; }
-  bool Running() const { return running_; }
+  /// Enabled, and its form is loaded.
+  bool Running() const;
   /// Starts it anew or stops it.
   void SetRunning(bool running);
 

@@ -6,6 +6,21 @@
 namespace norvane {
 
 class Form;
+class Program;
+
+/// Holds the program's dispatch open: forms unloaded meanwhile live until the outermost dispatch has ended. Whatever
+/// raises events and goes on afterwards opens one.
+class Dispatch {
+ public:
+  explicit Dispatch(const Form& form);
+  explicit Dispatch(Program& program);
+  ~Dispatch();
+  Dispatch(const Dispatch&) = delete;
+  Dispatch& operator=(const Dispatch&) = delete;
+
+ private:
+  Program& program_;
+};
 
 namespace detail {
 /// Runs `body` as an event of `form`: not at all if the form is not loaded; an error that leaves it is shown by the

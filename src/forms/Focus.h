@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 namespace norvane {
 
 class Control;
@@ -11,17 +13,32 @@ class Focus {
  public:
   Form* ActiveForm() const { return form_; }
   /// The control with the keyboard, nothing if the form in front has none that takes it.
-  Control* Current() const;
+  Control* Current() const { return control_; }
+  /// The innermost modal form, which all other forms wait for; nothing if there is none.
+  Form* Modal() const;
 
-  /// LostFocus of the control that had it, then GotFocus of `control`; its form comes to the front.
+  /// LostFocus of the control that had it, then GotFocus of `control`; its form comes to the front. Nothing happens if
+  /// the form waits for a modal one.
   void MoveTo(Control& control);
-  /// A window of the program came to the front: LostFocus there, GotFocus here.
+  /// A form has become visible: it comes to the front, or right behind the modal form it has to wait for.
+  void Enter(Form& form);
+  /// A form comes to the front: LostFocus there, GotFocus here.
   void Activate(Form& form);
-  /// The form is going: whoever is behind comes to the front.
-  void Leave(Form& form, Form* next);
+  /// The form has gone from view: its owner or whoever was in front before comes forward.
+  void Leave(Form& form);
+  /// The control can no longer have the focus: the next one in tab order gets it.
+  void Abandon(Control& control);
 
  private:
+  bool Waits(const Form& form) const;
+  bool Lose();
+  void ComeForward(Form& form);
+  void Gain(Control& control);
+
   Form* form_ = nullptr;
+  Control* control_ = nullptr;
+  std::vector<Form*> order_;  ///< visible forms that can be in front, the front one last
+  int moves_ = 0;             ///< tells whether a handler has moved the focus meanwhile
 };
 
 }  // namespace norvane

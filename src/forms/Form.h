@@ -29,7 +29,9 @@ struct FormStyle {
   bool resizable = true;
   /// Pickers and notices: unloaded with the form that owns them.
   bool goesWithOwner = false;
-  /// The window has no frame buttons (the splash).
+  /// A busy notice: it comes and goes without any focus events.
+  bool notice = false;
+  /// The window has no frame buttons (the splash); it takes no focus either.
   bool bare = false;
 };
 
@@ -87,6 +89,14 @@ class Form {
   /// The frame's close button and Alt+F4: a press of the exit button, or an unload where there is none.
   void UserClose();
   void UserActivate();
+  /// Tab and Shift+Tab: the focus goes to the next control in tab order, around the end.
+  void UserTab(bool backwards = false);
+
+  /// Window geometry in the settings file: `Left`, `Top`, `Width`, `Height` of a section, defaults 100, 100, 8000,
+  /// 6000.
+  void ReadGeometry(std::string_view section);
+  /// Writes them in that order, unless the window is minimized.
+  void WriteGeometry(std::string_view section);
 
   /// Told of caption, place, visibility of the window.
   std::function<void(Aspect)> observer;
@@ -121,18 +131,27 @@ class Form {
   /// "Yes, No, Cancel" with a question mark, No preselected.
   Answer AskYesNoCancel(const std::string& text, const std::string& title);
 
-  /// Window geometry in the settings file: `Left`, `Top`, `Width`, `Height` of a section, defaults 100, 100, 8000,
-  /// 6000.
-  void ReadGeometry(std::string_view section);
-  /// Writes them in that order, unless the window is minimized.
-  void WriteGeometry(std::string_view section);
-
  private:
   friend class Control;
-  friend class MenuEntry;
-  friend class ScreenTable;
+  friend class Dispatch;
   friend class Focus;
+  friend class MenuEntry;
   friend class Program;
+  friend class ScreenTable;
+  friend class Timer;
+  friend void detail::RunAsEvent(Form& form, const std::function<void()>& body);
+
+  bool CanBeInFront() const { return !style_.notice && !style_.bare; }
+  Control* FirstFocus() const;
+  void Load();
+  void Appear(ShowOptions options);
+  void Disappear();
+  void ReleaseOwnedForms();
+  void TellTimers();
+  void Resize(Twips width, Twips height);
+  void RunHandler(const std::function<void()>& body);
+  void Terminate();
+  void Notify(Aspect aspect);
 
   std::string name_;
   FormStyle style_;
@@ -148,6 +167,10 @@ class Form {
   bool loaded_ = false;
   bool visible_ = false;
   bool modal_ = false;
+  bool appearing_ = false;  ///< its window is being made; Form_Resize and the focus follow
+  bool unloading_ = false;
+  bool gone_ = false;  ///< unloaded; Form_Terminate comes when no handler of it runs
+  int handlers_ = 0;   ///< handlers of this form that are running
 };
 
 }  // namespace norvane

@@ -82,6 +82,9 @@ class Grid : public Control {
   CellHelper Helper(int col) const;
   /// The texts of a column's drop-down.
   const std::vector<std::string>& DropDownItems(int col) const;
+  /// Whether the user may edit the column. At first all of a row-editing grid but its marker column 0, none of a list.
+  void SetColEditable(int col, bool editable);
+  bool ColEditable(int col) const;
 
   /// The content.
   std::string Cell(int row, int col) const;
@@ -109,6 +112,8 @@ class Grid : public Control {
   Twips CellLeft() const;
   Twips CellTop() const;
   Twips CellWidth() const;
+  /// Whoever draws sets it.
+  void SetRowHeight(Twips height);
 
   // Editing: what a user does to the current cell. BeginEdit is refused (false) where the cell cannot be edited.
   enum class BeginBy { Typing, Command };
@@ -122,10 +127,13 @@ class Grid : public Control {
   /// Chooses an item of the current cell's drop-down: begins an edit if there is none, and commits.
   void PickItem(int index);
   void ToggleCheck();
+  /// The button of the current cell, and of any cell: the focus comes here, the cursor moves there, CellButtonClick.
   void PressCellButton();
+  void PressCellButton(int row, int col);
 
   // The user at the mouse and the keyboard.
   void UserClick(int row, int col);
+  /// The second click of a double click; the first has come as UserClick.
   void UserDoubleClick(int row, int col);
   /// A key that is no character. False if the grid has no use for it (Tab after the last cell), so that the form may.
   bool UserKey(Key key, KeyModifiers modifiers = {});
@@ -146,8 +154,27 @@ class Grid : public Control {
   GridObserver* view = nullptr;
 
  private:
-  void LosingFocus() override;
   struct Model;
+  void LosingFocus() override;
+  void CheckRow(int row) const;
+  void CheckCol(int col) const;
+  void InsertRow(std::string_view cells, int row);
+  void RowsHaveChanged(int first, int change);
+  void ShowTextsForKeys(int col);
+  void ScrollIntoView();
+  void MoveTo(int row, int col);
+  void MoveByKey(int row, int col);
+  bool IsAt(int row, int col) const;
+  bool CanEdit() const;
+  bool AskBeforeEdit();
+  void ChooseItem(int index);
+  void SearchItem(std::string_view letters);
+  bool KeyInEdit(Key key, KeyModifiers modifiers);
+  bool KeyOutsideEdit(Key key, KeyModifiers modifiers);
+  bool MoveBy(Key key, KeyModifiers modifiers);
+  bool MoveByTab(bool backwards);
+  void OpenHelper();
+
   std::unique_ptr<Model> model_;
 };
 

@@ -39,16 +39,18 @@ class Program {
   const std::string& StartUpScreen() const { return startUpScreen_; }
 
  private:
-  friend void detail::RunAsEvent(Form& form, const std::function<void()>& body);
+  friend class Dispatch;
   friend class Form;
   friend class ScreenTable;
   void EnterDispatch() { ++dispatchDepth_; }
   void LeaveDispatch();
-  void Bury(std::shared_ptr<Form> form);
+  void Bury(std::shared_ptr<Form> form) { graveyard_.push_back(std::move(form)); }
+  void EndIfNothingIsVisible();
+  void EmptyGraveyard();
 
   std::string startUpScreen_;
+  bool running_ = false;
   int dispatchDepth_ = 0;
-  bool ending_ = false;
   std::vector<std::shared_ptr<Form>> graveyard_;  ///< unloaded forms that a handler may still be running in
 };
 

@@ -36,7 +36,8 @@ class ScreenTable {
   /// Whether a screen or an action of that name is there at all.
   bool Has(std::string_view name) const;
 
-  /// Loads the screen if it isn't, as any use of it does.
+  /// Loads the screen if it isn't, as any use of it does. The reference holds until the screen is unloaded, and then
+  /// until the outermost event has returned.
   Form& Touch(std::string_view name);
   template <class Screen>
   Screen& Touch() {
@@ -62,8 +63,12 @@ class ScreenTable {
   std::vector<std::string> Names() const;
 
  private:
-  friend class Program;
   friend class Form;
+  friend class Program;
+  std::shared_ptr<Form> Share(std::string_view name) const;
+  std::shared_ptr<Form> Load(std::string_view name);
+  std::shared_ptr<Form> Remove(Form& form);
+
   Program& program_;
   std::map<std::string, std::function<std::shared_ptr<Form>(Program&)>, std::less<>> factories_;
   std::map<std::string, std::function<void()>, std::less<>> actions_;

@@ -1,0 +1,172 @@
+#include <algorithm>
+
+#include "forms/GridModel.h"
+
+namespace norvane {
+
+namespace {
+
+/// A cell holds one line: what breaks a line or parts cells becomes a blank.
+std::string OneLine(std::string_view text) {
+  std::string line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '\n' && i > 0 && text[i - 1] == '\r') continue;
+    line += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
+  }
+  return line;
+}
+
+char LowerCase(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+}
+
+bool BeginsWith(std::string_view text, std::string_view letters) {
+  return text.size() >= letters.size() && std::equal(letters.begin(), letters.end(), text.begin(),
+                                                     [](char a, char b) { return LowerCase(a) == LowerCase(b); });
+}
+
+int FindItem(const std::vector<std::string>& items, std::string_view letters) {
+  const auto found =
+      std::find_if(items.begin(), items.end(), [&](const auto& item) { return BeginsWith(item, letters); });
+  return found == items.end() ? -1 : static_cast<int>(found - items.begin());
+}
+
+bool IsTicked(const std::string& content) {
+  return !content.empty() && content != "0";
+}
+
+}  // namespace
+
+bool Grid::CanEdit() const {
+  const Model& m = *model_;
+  if (!Enabled() || !Parent().IsLoaded() || m.row < 1) return false;
+  const GridColumn& column = model_->Column(m.col);
+  return column.editable && column.width > 0;
+}
+
+/// BeforeEdit of the current cell. False if that moved the cursor or the focus, or unloaded the form.
+bool Grid::AskBeforeEdit() {
+  const int row = model_->row;
+  const int col = model_->col;
+  const bool hadFocus = HasFocus();
+  BeforeEdit.Raise(row, col);
+  return IsAt(row, col) && row < Rows() && HasFocus() == hadFocus && CanEdit();
+}
+
+bool Grid::Editing() const {
+  return model_->edit.has_value();
+}
+
+bool Grid::BeginEdit(BeginBy by) {
+  if (Editing() || !CanEdit() || ColDataType(Col()) == ColumnType::Boolean) return false;
+  const Dispatch dispatch(Parent());
+  if (!AskBeforeEdit()) return false;
+  const GridColumn& column = model_->Column(Col());
+  GridEdit edit{.by = by, .text = DisplayText(Row(), Col()), .letters = ""};
+  if (column.HasList()) {
+    edit.item = column.ItemOf(Cell(Row(), Col()));
+  } else if (by == BeginBy::Typing) {
+    edit.text.clear();
+  }
+  model_->edit = std::move(edit);
+  if (view) view->EditChanged();
+  return true;
+}
+
+const std::string& Grid::EditText() const {
+  static const std::string kNone;
+  return Editing() ? model_->edit->text : kNone;
+}
+
+void Grid::SetEditText(std::string text) {
+  if (!Editing()) return;
+  const GridColumn& column = model_->Column(Col());
+  if (column.HasList()) {
+    const auto found = std::find(column.items.begin(), column.items.end(), text);
+    if (found != column.items.end()) ChooseItem(static_cast<int>(found - column.items.begin()));
+    return;
+  }
+  model_->edit->text = OneLine(text);
+  if (view) view->EditChanged();
+}
+
+void Grid::ChooseItem(int index) {
+  model_->edit->item = index;
+  model_->edit->text = model_->Column(Col()).items[static_cast<std::size_t>(index)];
+  if (view) view->EditChanged();
+}
+
+/// Goes on with the letters typed before, or begins anew with these if no item follows both.
+void Grid::SearchItem(std::string_view letters) {
+  const auto& items = model_->Column(Col()).items;
+  auto& searched = model_->edit->letters;
+  searched += letters;
+  int item = FindItem(items, searched);
+  if (item < 0) {
+    searched = letters;
+    item = FindItem(items, searched);
+  }
+  if (item >= 0) ChooseItem(item);
+}
+
+void Grid::UserText(std::string_view text) {
+  if (!Enabled() || text.empty()) return;
+  const Dispatch dispatch(Parent());
+  if (!Editing()) {
+    if (text.size() == 1) KeyPress.Raise(text.front());
+    if (CanEdit() && text == " " && ColDataType(Col()) == ColumnType::Boolean) return ToggleCheck();
+    if (!BeginEdit(BeginBy::Typing)) return;
+  }
+  if (model_->Column(Col()).HasList()) {
+    SearchItem(text);
+  } else {
+    SetEditText(model_->edit->text + std::string(text));
+  }
+}
+
+void Grid::CommitEdit() {
+  if (!Editing()) return;
+  const Dispatch dispatch(Parent());
+  const GridEdit edit = *std::exchange(model_->edit, std::nullopt);
+  const int row = Row();
+  const int col = Col();
+  const GridColumn& column = model_->Column(col);
+  const std::string before = Cell(row, col);
+  const std::string content = !column.HasList() ? edit.text : edit.item < 0 ? before : column.ContentOf(edit.item);
+  if (content != before) SetCell(row, col, content);
+  if (view) view->EditChanged();
+  if (content != before) AfterEdit.Raise(row, col);
+}
+
+void Grid::CancelEdit() {
+  if (!Editing()) return;
+  model_->edit.reset();
+  if (view) view->EditChanged();
+}
+
+void Grid::PickItem(int index) {
+  const Dispatch dispatch(Parent());
+  if (!Editing() && !BeginEdit()) return;
+  const GridColumn& column = model_->Column(Col());
+  if (!column.HasList() || index < 0 || index >= static_cast<int>(column.items.size())) return;
+  ChooseItem(index);
+  CommitEdit();
+}
+
+void Grid::ToggleCheck() {
+  if (!CanEdit() || ColDataType(Col()) != ColumnType::Boolean) return;
+  const Dispatch dispatch(Parent());
+  if (!AskBeforeEdit()) return;
+  const int row = Row();
+  const int col = Col();
+  SetCell(row, col, IsTicked(Cell(row, col)) ? "0" : "-1");
+  AfterEdit.Raise(row, col);
+}
+
+void Grid::LosingFocus() {
+  CommitEdit();
+  LeaveCell.Raise();
+}
+
+}  // namespace norvane

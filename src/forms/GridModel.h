@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+
+#include "forms/Form.h"
+#include "forms/Grid.h"
+#include "forms/GridTable.h"
+
+namespace norvane {
+
+/// What a grid knows of a column.
+struct GridColumn {
+  Twips width = 960;
+  ColumnAlignment alignment = ColumnAlignment::General;
+  ColumnType type = ColumnType::Plain;
+  CellHelper helper = CellHelper::None;
+  bool editable = false;
+  std::vector<std::string> items;  ///< the texts of its drop-down
+  std::vector<std::string> keys;   ///< their keys, if it is a keyed one
+
+  bool HasList() const { return helper == CellHelper::DropDown || helper == CellHelper::KeyedDropDown; }
+  /// What a cell holds when the item is chosen.
+  const std::string& ContentOf(int item) const {
+    const auto& contents = helper == CellHelper::KeyedDropDown ? keys : items;
+    return contents[static_cast<std::size_t>(item)];
+  }
+  /// The item that a content stands for, -1 for none.
+  int ItemOf(std::string_view content) const;
+};
+
+/// An edit of the current cell.
+struct GridEdit {
+  Grid::BeginBy by;
+  std::string text;
+  int item = -1;        ///< of a drop-down: the item chosen, -1 while the content is none
+  std::string letters;  ///< of a drop-down: what was typed in search of an item
+};
+
+struct Grid::Model {
+  GridKind kind;
+  GridTable table;
+  std::vector<GridColumn> columns;
+  int row = 0;
+  int col = 0;
+  int topRow = 1;
+  int visibleRows = 10;
+  Twips rowHeight = 300;
+  std::optional<GridEdit> edit;
+
+  GridColumn& Column(int at) { return columns[static_cast<std::size_t>(at)]; }
+  int Rows() const { return table.Rows(); }
+  int Cols() const { return static_cast<int>(columns.size()); }
+  int LastRow() const { return Rows() - 1; }
+  /// The marker column is out of the cursor's reach.
+  int FirstCol() const { return kind == GridKind::Editable ? 1 : 0; }
+};
+
+}  // namespace norvane

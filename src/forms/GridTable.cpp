@@ -1,0 +1,70 @@
+#include "forms/GridTable.h"
+
+#include <algorithm>
+
+namespace norvane {
+
+namespace {
+
+constexpr char kSeparator = '\t';
+
+/// Where the cell begins in its row, npos if the row is too short for it.
+std::size_t CellBegin(std::string_view row, int col) {
+  std::size_t begin = 0;
+  for (; col > 0; --col) {
+    begin = row.find(kSeparator, begin);
+    if (begin == std::string_view::npos) return begin;
+    ++begin;
+  }
+  return begin;
+}
+
+std::size_t CellEnd(std::string_view row, std::size_t begin) {
+  return std::min(row.find(kSeparator, begin), row.size());
+}
+
+/// The row's text up to the end of its last column.
+std::string_view FirstCells(std::string_view row, int cols) {
+  const auto beyond = CellBegin(row, cols);
+  return beyond == std::string_view::npos ? row : row.substr(0, beyond - 1);
+}
+
+}  // namespace
+
+void GridTable::Insert(int row, std::string_view cells, int cols) {
+  rows_.emplace(rows_.begin() + row, FirstCells(cells, cols));
+}
+
+void GridTable::Remove(int row) {
+  rows_.erase(rows_.begin() + row);
+}
+
+void GridTable::Clear() {
+  rows_ = std::vector<std::string>(rows_.size());
+}
+
+void GridTable::CutColumns(int cols) {
+  for (auto& row : rows_) row.resize(FirstCells(row, cols).size());
+}
+
+std::string_view GridTable::Cell(int row, int col) const {
+  const std::string_view cells = rows_[static_cast<std::size_t>(row)];
+  const auto begin = CellBegin(cells, col);
+  if (begin == std::string_view::npos) return {};
+  return cells.substr(begin, CellEnd(cells, begin) - begin);
+}
+
+void GridTable::SetCell(int row, int col, std::string_view text) {
+  std::string content(text);
+  std::replace(content.begin(), content.end(), kSeparator, ' ');
+  auto& cells = rows_[static_cast<std::size_t>(row)];
+  auto begin = CellBegin(cells, col);
+  if (begin == std::string::npos) {
+    const auto separators = std::count(cells.begin(), cells.end(), kSeparator);
+    cells.append(static_cast<std::size_t>(col - separators), kSeparator);
+    begin = cells.size();
+  }
+  cells.replace(begin, CellEnd(cells, begin) - begin, content);
+}
+
+}  // namespace norvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane {
+
+/// The cells of a grid, one text per row with tabs between the cells, just as rows are added. A cell is looked for when
+/// it is asked for, so a hundred thousand rows cost one short text each and no splitting.
+class GridTable {
+ public:
+  int Rows() const { return static_cast<int>(rows_.size()); }
+  void Resize(int rows) { rows_.resize(static_cast<std::size_t>(rows)); }
+  /// Cells beyond `cols` are dropped.
+  void Insert(int row, std::string_view cells, int cols);
+  void Remove(int row);
+  /// Empties the rows and gives back what they held.
+  void Clear();
+  void CutColumns(int cols);
+
+  /// Good until the row changes.
+  std::string_view Cell(int row, int col) const;
+  /// A tab within the text becomes a blank.
+  void SetCell(int row, int col, std::string_view text);
+
+ private:
+  std::vector<std::string> rows_{1};
+};
+
+}  // namespace norvane

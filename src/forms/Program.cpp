@@ -1,0 +1,55 @@
+#include "forms/Program.h"
+
+#include <algorithm>
+
+#include "forms/Form.h"
+
+namespace norvane {
+
+Program::Program(Desktop& desktop_, RegionalSettings settings, std::filesystem::path applicationFolder)
+    : desktop(desktop_), convert(std::move(settings), desktop_) {
+  workspace.applicationFolder = std::move(applicationFolder);
+}
+
+Program::~Program() {
+  running_ = false;
+  EmptyGraveyard();
+}
+
+void Program::Start(std::string_view startUpScreen) {
+  const Dispatch dispatch(*this);
+  startUpScreen_ = startUpScreen;
+  running_ = true;
+  screens.Show(startUpScreen);
+}
+
+void Program::LeaveDispatch() {
+  if (dispatchDepth_ == 1) {
+    EndIfNothingIsVisible();
+    EmptyGraveyard();
+  }
+  --dispatchDepth_;
+}
+
+void Program::EndIfNothingIsVisible() {
+  const auto& loaded = screens.loaded_;
+  const auto isVisible = [](const auto& form) { return form->IsVisible(); };
+  if (!running_ || std::any_of(loaded.begin(), loaded.end(), isVisible)) return;
+  running_ = false;
+  while (!loaded.empty()) loaded.back()->Unload();
+  if (const auto main = std::move(screens.unloadedMain_)) {
+    main->Terminate();
+    Bury(main);
+  }
+  desktop.Quit();
+}
+
+void Program::EmptyGraveyard() {
+  while (!graveyard_.empty()) {
+    const auto form = std::move(graveyard_.back());
+    graveyard_.pop_back();
+    desktop.FormDestroyed(*form);
+  }
+}
+
+}  // namespace norvane

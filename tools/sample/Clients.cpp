@@ -1,0 +1,176 @@
+#include <array>
+#include <cctype>
+#include <string_view>
+
+#include "sample/Sample.h"
+#include "sample/Words.h"
+
+namespace norvane::sample {
+namespace {
+
+/// An address for mail is plain letters: accents fall off, all else that is no letter goes.
+std::string PlainLetters(std::string_view text) {
+  constexpr std::array<std::array<std::string_view, 2>, 12> kAccents{{{"Å", "a"},
+                                                                      {"á", "a"},
+                                                                      {"ç", "c"},
+                                                                      {"é", "e"},
+                                                                      {"è", "e"},
+                                                                      {"ë", "e"},
+                                                                      {"í", "i"},
+                                                                      {"ñ", "n"},
+                                                                      {"ö", "o"},
+                                                                      {"ú", "u"},
+                                                                      {"ü", "u"},
+                                                                      {"ø", "o"}}};
+  std::string plain(text);
+  for (const auto& [accented, letter] : kAccents)
+    for (auto at = plain.find(accented); at != std::string::npos; at = plain.find(accented))
+      plain.replace(at, accented.size(), letter);
+  std::string letters;
+  for (const char character : plain)
+    if (std::isalpha(static_cast<unsigned char>(character)))
+      letters += static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+  return letters;
+}
+
+/// Of the numbers kept free for fiction.
+std::string Phone(Random& random, const Town& town) {
+  return "(" + std::string(town.areaCode) + ") 555-01" + std::to_string(random.Between(10, 99));
+}
+
+std::string MakeCompany(Random& random) {
+  const std::string word = random.Pick(CompanyWords());
+  return word + " " + random.Pick(CompanyKinds());
+}
+
+struct Address {
+  std::string street, unit, city, state, zipCode;
+};
+
+Address MakeAddress(Random& random, const Town& town) {
+  const int house = random.Between(20, 9989);
+  return {std::to_string(house) + " " + random.Pick(Streets()),
+          random.Chance(15) ? "Apt " + std::to_string(random.Between(1, 40)) : "", town.city, town.state, town.zipCode};
+}
+
+struct Card {
+  std::string number, type, expires;
+};
+
+Card MakeCard(Random& random, Day today, int percent) {
+  if (!random.Chance(percent)) return {};
+  const int month = random.Between(1, 12);
+  const int year = (YearOf(today) + random.Between(1, 4)) % 100;
+  const auto twoDigits = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+  return {random.Pick(CardNumbers()), random.Chance(70) ? "Credit Card" : "Debit Card",
+          twoDigits(month) + "/" + twoDigits(year)};
+}
+
+/// Names go round without a repetition as long as there are combinations left.
+struct Name {
+  std::string first, middle, last;
+};
+
+Name MakeName(Random& random, int place, int start) {
+  const int firsts = static_cast<int>(FirstNames().size());
+  const int lasts = static_cast<int>(LastNames().size());
+  constexpr int kStep = 2'741;  // prime, and no divisor of the count of combinations
+  const int combination = static_cast<int>((static_cast<std::int64_t>(place) * kStep + start) % (firsts * lasts));
+  const std::string initial(1, static_cast<char>('A' + random.Below(20)));
+  return {FirstNames()[static_cast<std::size_t>(combination % firsts)], random.Chance(30) ? initial + "." : "",
+          LastNames()[static_cast<std::size_t>(combination / firsts)]};
+}
+
+}  // namespace
+
+std::vector<Client> WriteClients(Database& database, Random& random, const Order& order) {
+  Inserter rows(database, "tb_Client",
+                "CustNum,Lname,Fname,Mname,Address1,Address2,City,State,ZipCode,HomePhone,WorkPhone,CelPhone,Fax,"
+                "Company,Email,WebPage,Notes,BillLname,BillFname,BillMname,BillAddress1,BillAddress2,Billcity,"
+                "BillState,BillZipCode,BillHomePhone,BillWorkPhone,BillCelPhone,BillFax,BillEmail,BillWebPage,"
+                "CardNum1,CardNum2,PaymentType1,PaymentType2,ExpDate1,ExpDate2,POnum,Discount,ShipLname,ShipFname,"
+                "ShipMname,ShipAddress1,ShipAddress2,Shipcity,ShipState,ShipZipCode,ShipHomePhone,ShipWorkPhone,"
+                "ShipCelPhone");
+  std::vector<Client> clients;
+  const int start = random.Below(5'000);
+  for (int place = 0; place < order.size.clients; ++place) {
+    Client client{.number = kFirstKey + place, .trade = random.Chance(18)};
+    const Town& town = random.Pick(Towns());
+    client.taxed = std::string_view(town.state) == Towns().front().state && !(client.trade && random.Chance(25));
+    client.discount = client.trade ? 10 * random.Below(3) : random.Chance(12) ? 10 : 0;
+
+    const Name name = MakeName(random, place, start);
+    const std::string company = client.trade ? MakeCompany(random) : "";
+    const std::string site = client.trade ? "www.example.com/" + PlainLetters(company) : "";
+    const std::string mail = PlainLetters(name.first) + "." + PlainLetters(name.last) + "@example.com";
+    const Address home = MakeAddress(random, town);
+    // Most are billed and served where they live.
+    const Address bill = random.Chance(85) ? home : MakeAddress(random, random.Pick(Towns()));
+    const Address ship = random.Chance(85) ? home : MakeAddress(random, random.Pick(Towns()));
+    const std::string homePhone = Phone(random, town);
+    const std::string workPhone = client.trade || random.Chance(40) ? Phone(random, town) : "";
+    const std::string celPhone = random.Chance(80) ? Phone(random, town) : "";
+    const std::string fax = client.trade ? Phone(random, town) : "";
+    const std::string billMail = client.trade ? "accounts@example.com" : mail;
+    const Card card = MakeCard(random, order.today, 45);
+    const Card second = card.number.empty() ? Card{} : MakeCard(random, order.today, 25);
+    const std::string purchaseOrder = client.trade ? "PO-" + std::to_string(random.Between(1000, 9999)) : "";
+    const std::string notes = random.Chance(20) ? random.Pick(ClientNotes()) : "";
+    client.card = card.number;
+
+    rows.Add({client.number,
+              name.last,
+              name.first,
+              name.middle,
+              home.street,
+              home.unit,
+              home.city,
+              home.state,
+              home.zipCode,
+              homePhone,
+              workPhone,
+              celPhone,
+              fax,
+              company,
+              mail,
+              site,
+              notes,
+              name.last,
+              name.first,
+              name.middle,
+              bill.street,
+              bill.unit,
+              bill.city,
+              bill.state,
+              bill.zipCode,
+              homePhone,
+              workPhone,
+              celPhone,
+              fax,
+              billMail,
+              site,
+              card.number,
+              second.number,
+              card.type,
+              second.type,
+              card.expires,
+              second.expires,
+              purchaseOrder,
+              double(client.discount),
+              name.last,
+              name.first,
+              name.middle,
+              ship.street,
+              ship.unit,
+              ship.city,
+              ship.state,
+              ship.zipCode,
+              homePhone,
+              workPhone,
+              celPhone});
+    clients.push_back(client);
+  }
+  return clients;
+}
+
+}  // namespace norvane::sample

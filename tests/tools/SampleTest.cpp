@@ -1,0 +1,154 @@
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <sys/stat.h>
+
+#include "sample/Sample.h"
+#include "support/Database.h"
+
+namespace norvane::sample {
+namespace {
+
+using testing::IsEmpty;
+
+const Day kToday = ToDay(std::chrono::year{2026} / 11 / 22);
+
+/// A sample written over the fixture's database, so that the fixture's queries look into it.
+class SampleTest : public testing::Test {
+ protected:
+  void Write(const Order& order) {
+    std::filesystem::rename(database.File(), Delivered());
+    WriteSample(Delivered(), database.File(), order);
+  }
+  std::filesystem::path Delivered() const { return database.Folder() / "delivered.mdb"; }
+  int Count(const std::string& query) { return std::stoi(database.Cell(query)); }
+
+  test::Database database;
+};
+
+std::string Bytes(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+TEST_F(SampleTest, IsTheSameForASeedAndADay) {
+  const auto write = [&](const char* name, std::uint64_t seed, Day today) {
+    WriteSample(database.File(), database.Folder() / name, {.size = {}, .seed = seed, .today = today});
+    return Bytes(database.Folder() / name);
+  };
+  const std::string first = write("first", 7, kToday);
+  EXPECT_EQ(first, write("again", 7, kToday));
+  EXPECT_NE(first, write("seed", 8, kToday));
+  EXPECT_NE(first, write("day", 7, kToday + 1));
+}
+
+TEST_F(SampleTest, NeverTouchesADatabaseThatIsThere) {
+  const std::string before = Bytes(database.File());
+  EXPECT_THROW(WriteSample(database.File(), database.File(), {.size = {}, .seed = 1, .today = kToday}),
+               std::runtime_error);
+  EXPECT_EQ(Bytes(database.File()), before);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(database.Folder()), {}), 1) << "a draft is left";
+}
+
+TEST_F(SampleTest, IsForItsOwnerAlone) {
+  Write({.size = {}, .seed = 1, .today = kToday});
+  struct stat status {};
+  ASSERT_EQ(stat(database.File().c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0600u);
+}
+
+TEST_F(SampleTest, HasTheSizeAskedFor) {
+  Write({.size = {.clients = 40, .invoices = 333, .lines = 2'000, .items = 190, .payments = 150, .entries = 700},
+         .seed = 3,
+         .today = kToday});
+  EXPECT_EQ(Count("SELECT count(*) FROM tb_Client"), 40);
+  EXPECT_EQ(Count("SELECT count(*) FROM tb_Invoice"), 333);
+  EXPECT_EQ(Count("SELECT count(*) FROM tb_trans"), 2'000);
+  EXPECT_EQ(Count("SELECT count(*) FROM tb_Inventory"), 190);
+  EXPECT_NEAR(Count("SELECT count(*) FROM tb_Receive"), 150, 25);
+  EXPECT_NEAR(Count("SELECT count(*) FROM tb_GL"), 700, 5);
+  EXPECT_EQ(Count("SELECT count(*) FROM tb_Invoice WHERE InvoiceNum NOT IN (SELECT InvoiceNum FROM tb_trans)"), 0);
+}
+
+TEST_F(SampleTest, CanBeSmallerThanItsOwnRhythm) {
+  Write({.size = {.clients = 1, .invoices = 1, .lines = 1, .items = 1, .payments = 1, .entries = 1},
+         .seed = 1,
+         .today = kToday});
+  EXPECT_EQ(Count("SELECT count(*) FROM tb_Client JOIN tb_Invoice USING (CustNum) JOIN tb_trans USING (InvoiceNum)"),
+            1);
+}
+
+/// Queries that find what the program could not have written, or what would look odd on a screen.
+struct Flaw {
+  const char* name;
+  const char* query;
+};
+const Flaw kFlaws[] = {
+    {"LineIsNotQuantityTimesPrice",
+     "SELECT TransNum FROM tb_trans JOIN tb_Inventory USING (ItemNum) WHERE Amount <> Qty * Charge"},
+    {"BackOrdersAreNotWhatIsShort",
+     "SELECT ItemNum FROM tb_Inventory AS item WHERE Par > 0 AND min(InStock, 0) <> "
+     "ifnull((SELECT sum(BackOrder) FROM tb_trans WHERE tb_trans.ItemNum = item.ItemNum), 0)"},
+    {"WorkHasStock", "SELECT ItemNum FROM tb_Inventory WHERE Par = 0 AND InStock <> 0"},
+    {"OrderedWithoutBackOrder", "SELECT TransNum FROM tb_trans WHERE Ordered IS NOT NULL AND BackOrder >= 0"},
+    {"OrderedBeforeSold",
+     "SELECT TransNum FROM tb_trans JOIN tb_Invoice USING (InvoiceNum) WHERE Ordered < \"Date\" OR Ordered > 46348"},
+    {"InvoicesOutOfOrder",
+     "SELECT next.InvoiceNum FROM tb_Invoice AS next JOIN tb_Invoice AS last ON next.InvoiceNum = last.InvoiceNum + 1 "
+     "WHERE next.\"Date\" < last.\"Date\""},
+    {"InTheFuture",
+     "SELECT \"Date\" FROM tb_Invoice WHERE \"Date\" > 46348 OR Shippingdate > 46348 UNION "
+     "SELECT \"Date\" FROM tb_Receive WHERE \"Date\" > 46348 UNION SELECT \"Date\" FROM tb_GL WHERE \"Date\" > 46348"},
+    {"TaxIsNotTheStates",
+     "SELECT InvoiceNum FROM tb_Invoice JOIN (SELECT InvoiceNum, sum(Amount) AS Lines FROM tb_trans GROUP BY 1) "
+     "USING (InvoiceNum), tb_Company WHERE Tax <> 0 AND "
+     "abs(Tax - Lines * (100 - Discount) / 100 * Statetaxrate / 100) > 50"},
+    {"BalanceHasPartsOfACent", "SELECT CustNum FROM ClientBals WHERE Balance % 100 <> 0"},
+    {"UnknownCategory", "SELECT Category FROM tb_GL WHERE Category <> '' AND Category NOT IN tb_ExpenseTypes"},
+    {"UnknownVendor", "SELECT Vendor FROM tb_GL WHERE Vendor <> '' AND Vendor NOT IN (SELECT Company FROM tb_Vendor)"},
+    {"UnknownPaymentType",
+     "SELECT Type FROM tb_Receive WHERE Type NOT IN tb_PaymentTypes UNION "
+     "SELECT PaymentType1 FROM tb_Client WHERE PaymentType1 <> '' AND PaymentType1 NOT IN tb_PaymentTypes"},
+    {"UnknownShipping",
+     "SELECT ShippingType FROM tb_Invoice WHERE ShippingType NOT IN (SELECT Service || ' ' || \"Option\" FROM "
+     "tb_Shipping)"},
+    {"ChargeIsNotTheServices",
+     "SELECT InvoiceNum FROM tb_Invoice JOIN tb_Shipping ON ShippingType = Service || ' ' || \"Option\" "
+     "WHERE ShippingCharge <> Charge"},
+    {"AccountOverdrawn",
+     "SELECT Balance FROM (SELECT sum(Deposit - Payment) OVER (ORDER BY \"Date\", TransNum) AS Balance FROM tb_GL) "
+     "WHERE Balance < 0"},
+    {"DepositIsNotTheWeeksPayments",
+     "SELECT TransNum FROM tb_GL AS entry WHERE Deposit > 0 AND TransNum > 1001 AND Deposit <> "
+     "(SELECT sum(Amount) FROM tb_Receive AS paid WHERE paid.\"Date\" BETWEEN entry.\"Date\" - 6 AND entry.\"Date\")"},
+    {"SecondHandNumbers", "SELECT HomePhone FROM tb_Client WHERE HomePhone NOT LIKE '(___) 555-01__'"},
+    {"RealMail", "SELECT Email FROM tb_Client WHERE Email NOT LIKE '%_._%@example.com'"},
+};
+
+TEST_F(SampleTest, HoldsTogether) {
+  Write({.size = {}, .seed = 1, .today = kToday});
+  EXPECT_EQ(database.Cell("PRAGMA integrity_check"), "ok");
+  for (const Flaw& flaw : kFlaws) EXPECT_THAT(database.Rows(flaw.query), IsEmpty()) << flaw.name;
+}
+
+TEST_F(SampleTest, HasNoTextThatTheProgramCouldNotSaveAgain) {
+  Write({.size = {}, .seed = 1, .today = kToday});
+  for (const std::string& table : database.Rows("SELECT name FROM sqlite_master WHERE type = 'table'"))
+    for (const std::string& column : database.Rows("SELECT name FROM pragma_table_info('" + table + "')"))
+      EXPECT_THAT(database.Rows("SELECT * FROM " + table + " WHERE \"" + column + "\" LIKE '%''%'"), IsEmpty());
+}
+
+TEST_F(SampleTest, ShowsSomethingOnEveryScreen) {
+  Write({.size = {}, .seed = 1, .today = kToday});
+  EXPECT_GT(Count("SELECT count(DISTINCT CustNum) FROM tb_Invoice WHERE \"Date\" > 46023"), 220) << "sales this year";
+  EXPECT_GT(Count("SELECT count(*) FROM ClientBals WHERE Balance < 0"), 2) << "credit balances";
+  EXPECT_GT(Count("SELECT count(*) FROM ClientBals WHERE Balance > 0"), 30);
+  EXPECT_GT(Count("SELECT count(*) FROM tb_trans WHERE BackOrder < 0 AND Ordered IS NULL"), 2) << "to be ordered";
+  EXPECT_GT(Count("SELECT count(*) FROM tb_trans WHERE Ordered IS NOT NULL"), 2) << "on order";
+  EXPECT_GT(Count("SELECT count(*) FROM tb_GL WHERE Cleared = 0"), 5) << "not cleared";
+  EXPECT_EQ(Count("SELECT count(DISTINCT Category) FROM tb_GL WHERE Payment > 0"), 8) << "every expense type";
+  EXPECT_EQ(Count("SELECT count(DISTINCT CatNum) FROM tb_Inventory"), 6) << "every category";
+}
+
+}  // namespace
+}  // namespace norvane::sample

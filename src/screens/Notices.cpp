@@ -1,0 +1,94 @@
+#include "screens/Notices.h"
+
+#include <memory>
+
+#include "forms/Form.h"
+
+namespace norvane {
+
+namespace {
+
+/// What a notice's Timer1 does, if it has one.
+struct NoticeTimer {
+  int milliseconds = 0;  ///< 0 for no timer
+  bool enabled = false;
+  const char* repaints = nullptr;  ///< at its tick the notice goes and this screen is painted anew
+};
+
+struct NoticeKind {
+  const char* name;
+  const char* caption;
+  const char* label;
+  const char* secondLabel = nullptr;
+  NoticeTimer timer = {};
+};
+
+constexpr NoticeTimer kIdleTimer{.milliseconds = 1500, .enabled = false, .repaints = "InvoiceDetail"};
+
+constexpr NoticeKind kNotices[] = {
+    {"GettingClients", "Getting Clients", "Getting Clients...", nullptr, kIdleTimer},
+    {"GettingInvoices", "Getting Invoices", "Getting Client Invoices...", nullptr, kIdleTimer},
+    {"GettingInventory", "Getting Inventory", "Getting Inventory...", nullptr, kIdleTimer},
+    {"GettingReceipts", "Getting Receipts", "Getting Client Receipts...", nullptr, kIdleTimer},
+    {"LoadingClients", "Loading Clients", "Loading Client Data...", nullptr, {1000, true}},
+    {"LoadingBilling", "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}},
+    {"CustomerSaved", "Save Client", "Saving Client...", "Updating Client List...", {1000, false}},
+    {"LoadingInvoices", "Loading Invoices", "Loading Invoices..."},
+};
+
+class Notice : public Form {
+ public:
+  Notice(Program& host, const NoticeKind& kind)
+      : Form(host, kind.name, {.caption = kind.caption, .resizable = false, .goesWithOwner = true, .notice = true}),
+        Label1(*this, "Label1", kind.label) {
+    layout::Nodes labels{Label1};
+    if (kind.secondLabel) {
+      Label2 = std::make_unique<Label>(*this, "Label2", kind.secondLabel);
+      labels.emplace_back(*Label2);
+    }
+    SetLayout(layout::Column(std::move(labels)));
+    if (kind.timer.milliseconds > 0) MakeTimer(kind.timer);
+  }
+
+  Label Label1;
+  std::unique_ptr<Label> Label2;
+  std::unique_ptr<Timer> Timer1;
+
+ private:
+  void MakeTimer(const NoticeTimer& timer) {
+    Timer1 = std::make_unique<Timer>(*this, "Timer1", timer.milliseconds, timer.enabled);
+    if (!timer.repaints) return;
+    Timer1->Tick = [this, repaints = timer.repaints] {
+      Unload();
+      if (Form* form = screens.Find(repaints)) form->Refresh();
+    };
+  }
+};
+
+/// Names the client whose invoices are being loaded.
+class LoadingInvoices : public Notice {
+ public:
+  using Notice::Notice;
+
+ private:
+  void Form_Load() override { Label1.SetCaption("Loading Invoices for ... " + globals.CurClientName); }
+};
+
+template <class Kind>
+void Register(ScreenTable& screens, const NoticeKind& notice) {
+  screens.AddFactory(notice.name, [&notice](Program& program) { return std::make_shared<Kind>(program, notice); });
+}
+
+}  // namespace
+
+void RegisterNotices(ScreenTable& screens) {
+  for (const NoticeKind& notice : kNotices) {
+    if (notice.name == std::string_view("LoadingInvoices")) {
+      Register<LoadingInvoices>(screens, notice);
+    } else {
+      Register<Notice>(screens, notice);
+    }
+  }
+}
+
+}  // namespace norvane

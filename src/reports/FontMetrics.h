@@ -6,8 +6,8 @@
 
 namespace norvane::pages {
 
-/// How much room text takes, as fractions of the font's size: unhinted design figures, so that one document gives the
-/// same pages on every device.
+/// How much room text takes, as fractions of the font's size: unhinted design figures (measured at a large size and
+/// divided by it), so that one document gives the same pages on every device.
 class FontMetrics {
  public:
   virtual ~FontMetrics() = default;

@@ -48,16 +48,16 @@ class Wrapper {
     BreakWord(end);
   }
 
+  // Looks no further than each line reaches: a text without blanks may be long.
   void BreakWord(std::size_t end) {
     while (true) {
       const std::string_view rest = text_.substr(begin_, end - begin_);
-      end_ = end;
-      used_ = ruler_.Width(face_, rest);
-      if (used_ <= width_) return;
-      end_ = begin_ + FittingLength(ruler_, face_, rest, width_);
-      if (end_ == end) return;
+      const std::size_t length = FittingLength(ruler_, face_, rest, width_);
+      end_ = begin_ + length;
+      if (length == rest.size()) break;
       PushLine();
     }
+    used_ = ruler_.Width(face_, text_.substr(begin_, end_ - begin_));
   }
 
   void PushLine() {

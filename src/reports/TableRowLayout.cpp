@@ -21,17 +21,25 @@ std::size_t MostLines(const MeasuredRow& row) {
 
 void RowMeasurer::Measure(std::size_t number, MeasuredRow& measured) {
   const TableRow& row = number == 0 ? table_.heading : table_.rows[number - 1];
-  float size = table_.font.size;
-  MeasureAt(size, row, number, measured);
+  MeasureAt(table_.font.size, row, number, measured);
   if (!row.height) return;
-  const double set = *row.height;
-  bool fits = measured.height <= set + kTolerance;
-  while (!fits && size > kSmallestSizeOfRow) {
-    size = std::max(size - kStep, kSmallestSizeOfRow);
+  if (measured.height > *row.height + kTolerance) Shrink(row, number, measured);
+  measured.height = std::max<double>(measured.height, *row.height);
+}
+
+// What does not fit at the smallest size fits at none, and stays at it.
+void RowMeasurer::Shrink(const TableRow& row, std::size_t number, MeasuredRow& measured) {
+  const auto fits = [&] {
+    return measured.height <= *row.height + kTolerance && MostLines(measured) <= kMostLinesOfShrunkRow;
+  };
+  float size = table_.font.size;
+  const float smallest = std::min(size, kSmallestSizeOfRow);
+  MeasureAt(smallest, row, number, measured);
+  if (!fits()) return;
+  do {
+    size = std::max(size - kStep, smallest);
     MeasureAt(size, row, number, measured);
-    fits = measured.height <= set + kTolerance && MostLines(measured) <= kMostLinesOfShrunkRow;
-  }
-  measured.height = std::max(measured.height, set);
+  } while (!fits());
 }
 
 void RowMeasurer::MeasureAt(float size, const TableRow& row, std::size_t number, MeasuredRow& measured) {

@@ -35,6 +35,7 @@ class RowMeasurer {
   void Measure(std::size_t number, MeasuredRow& measured);
 
  private:
+  void Shrink(const TableRow& row, std::size_t number, MeasuredRow& measured);
   void MeasureAt(float size, const TableRow& row, std::size_t number, MeasuredRow& measured);
   void MeasureCell(std::string_view text, const Column& column, Font font, MeasuredRow& measured);
   bool IsBold(std::size_t row, std::size_t column) const;

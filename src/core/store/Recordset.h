@@ -7,12 +7,12 @@
 
 #include "core/Value.h"
 #include "core/store/Connection.h"
+#include "core/store/FieldType.h"
 
 namespace norvane {
 
 enum class CursorType { ForwardOnly = 0, Keyset = 1, Dynamic = 2, Static = 3 };
 enum class LockType { Unspecified = -1, ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
-enum class FieldType { Long = 3, Double = 5, Currency = 6, Date = 7, Boolean = 11, Text = 200 };
 
 /// Rows read by a statement, held in memory with a cursor over them; or rows fabricated with AppendField and AddNew.
 ///
@@ -54,6 +54,7 @@ class Recordset {
 
   int FieldCount() const;
   std::string FieldName(int index) const;
+  FieldType FieldTypeOf(int index) const;
   Value Field(std::string_view name) const;
   /// A field by its place in the row, from 0.
   Value Field(int index) const;

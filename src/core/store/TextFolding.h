@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace norvane {
+
+bool IsAscii(std::string_view text);
+
+/// A text (UTF-8) turned into one whose bytes sort as people expect: without regard to case, accented letters beside
+/// their plain ones. Two texts have one key only if they differ in case alone: an accent makes a difference, but a
+/// later one than any letter.
+std::string FoldKey(std::string_view text);
+/// FoldKey into a buffer that is used again.
+void FoldKey(std::string_view text, std::string& key);
+
+/// The store's `like`: % for any text, _ for one character, without regard to case.
+bool MatchesPattern(std::string_view text, std::string_view pattern);
+
+}  // namespace norvane

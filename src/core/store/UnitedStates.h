@@ -1,0 +1,10 @@
+#pragma once
+
+#include "core/Conversions.h"
+
+namespace norvane {
+
+/// The conversions under United States settings, which are the store's own whatever the machine's.
+const Conversions& UnitedStates();
+
+}  // namespace norvane

@@ -8,6 +8,8 @@ template <class... Cases>
 struct Overloads : Cases... {
   using Cases::operator()...;
 };
+template <class... Cases>
+Overloads(Cases...) -> Overloads<Cases...>;
 
 }  // namespace
 

@@ -64,7 +64,7 @@ TEST_F(SettingsFile, IsMadeByTheFirstWrite) {
 TEST_F(SettingsFile, LeavesEveryOtherByteAsItIs) {
   const std::string above = "\xEF\xBB\xBF; mine\r\n\xFF\xFE garbage\r\n[Other]\r\nLeft=1\r\n\r\n[customer]\r\n";
   const std::string below = "\r\n\r\n[GL]\r\nLEFT=3";
-  Put(above + "left = 2" + below);
+  Put(above + "left = 2 " + below);
   EXPECT_TRUE(Write("Customer", "LEFT", "200"));
   EXPECT_EQ(Content(), above + "left =200" + below);
   EXPECT_TRUE(Write("Customer", "TOP", "5"));

@@ -38,7 +38,7 @@ std::string Vendor::LedgerSelection(const std::string& field, const std::string&
   } else if (field == "NOTES") {
     condition = sql::Statement("Notes = '", value, "' and ");
   } else if (field == "CLEARED") {
-    condition = sql::Statement("cleared = '", workspace_.convert.ToBoolean(std::string_view(value)), "' and ");
+    condition = sql::Statement("cleared = '", workspace_.convert.ToBoolean(value), "' and ");
   } else {
     return "";
   }

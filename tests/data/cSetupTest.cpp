@@ -1,0 +1,98 @@
+#include "data/DataTest.h"
+#include "data/cSetup.h"
+
+namespace norvane::test {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+class cSetupTest : public DataTest {
+ protected:
+  std::shared_ptr<cSetup> setup = Opened<cSetup>();
+};
+
+TEST_F(cSetupTest, WithoutACompanyTheObjectKeepsWhatItHolds) {
+  setup->Name = "Kept";
+  setup->GetCompanyInfo();
+  EXPECT_EQ(setup->Name, "Kept");
+  EXPECT_EQ(setup->Statetaxrate, 0);
+}
+
+TEST_F(cSetupTest, EverySaveAddsABlankToTheSecondAddress) {
+  setup->Name = "Acme";
+  setup->Address1 = "1 Main St";
+  setup->Address2 = "Suite 2";
+  setup->City = "Town";
+  setup->State = "TX";
+  setup->ZipCode = "75001";
+  setup->Phone = "555";
+  setup->Fax = "556";
+  setup->WebSite = "acme.example";
+  setup->Statetaxrate = 8.25;
+  setup->SaveCompanyInfo();
+  EXPECT_THAT(database.Rows("select * from tb_Company"),
+              ElementsAre("Acme|1 Main St|Suite 2 |Town|TX|75001|555|556|acme.example|8.25"));
+  const auto other = Opened<cSetup>();
+  other->GetCompanyInfo();
+  other->SaveCompanyInfo();
+  EXPECT_THAT(database.Rows("select * from tb_Company"),
+              ElementsAre("Acme|1 Main St|Suite 2  |Town|TX|75001|555|556|acme.example|8.25"));
+}
+
+TEST_F(cSetupTest, ARefusedCompanyIsLostWithoutAWord) {
+  database.Execute("insert into tb_Company (Name) values ('Acme')");
+  setup->Name = "Ann's";
+  setup->SaveCompanyInfo();
+  EXPECT_THAT(database.Rows("select * from tb_Company"), IsEmpty());
+}
+
+TEST_F(cSetupTest, NullsStopTheReadingInTheNameAndTheRateAlone) {
+  setup->Name = setup->Address1 = "old";
+  database.Execute("insert into tb_Company (Address1, Statetaxrate) values ('new', 5)");
+  setup->GetCompanyInfo();
+  ExpectReport("cSetup.GetCompanyInfo -", 94);
+  EXPECT_EQ(setup->Address1, "old");
+  database.Execute("update tb_Company set Name = 'Acme', Address1 = null, Statetaxrate = null");
+  setup->GetCompanyInfo();
+  ExpectReport("cSetup.GetCompanyInfo -", 94);
+  EXPECT_EQ(setup->Name, "Acme");
+  EXPECT_EQ(setup->Address1, "");
+}
+
+TEST_F(cSetupTest, TypesAreKeysWhateverTheirCase) {
+  database.Clear();
+  setup->SavePaymentType("check");
+  setup->SavePaymentType("Cash");
+  setup->SavePaymentType("Check");
+  ExpectReport("cSetup.SavePaymentType -", kFileOrKey);
+  EXPECT_THAT(Rows(setup->rsPaymentTypes(), {"type"}), ElementsAre("Cash", "check"));
+  setup->DeletePaymentType("CHECK");
+  EXPECT_THAT(Rows(setup->rsPaymentTypes(), {"Type"}), ElementsAre("Cash"));
+
+  setup->SaveExpenseType("Rent");
+  setup->SaveExpenseType("Car");
+  setup->SaveExpenseType("Owner's");
+  ExpectReport("cSetup.SaveExpenseType -", kSyntaxError);
+  EXPECT_THAT(Rows(setup->rsExpenseTypes(), {"Type"}), ElementsAre("Car", "Rent"));
+  setup->DeleteExpenseType("Car");
+  setup->DeleteExpenseType("none");
+  EXPECT_THAT(Rows(setup->rsExpenseTypes(), {"Type"}), ElementsAre("Rent"));
+}
+
+TEST_F(cSetupTest, ServiceAndOptionAreTheKeyOfShipping) {
+  database.Clear();
+  setup->SaveShippingType("UPS", "5 lb", Money(7.5));
+  setup->SaveShippingType("UPS", "20 lb", Money(9));
+  setup->SaveShippingType("Air", "5 lb", Money(30));
+  setup->SaveShippingType("ups", "5 LB", Money(8.0001));
+  EXPECT_THAT(Rows(setup->rsShippingTypes(), {"Service", "Option", "Charge"}),
+              ElementsAre("Air|5 lb|30", "UPS|20 lb|9", "ups|5 LB|8.0001"));
+  setup->DeleteShippingType("UPS", "20 lb");
+  setup->SaveShippingType("Air", "5' box", Money(1));
+  ExpectReport("cSetup.SaveShippingType -", kSyntaxError);
+  EXPECT_THAT(Rows(setup->rsShippingTypes(), {"Option"}), ElementsAre("5 lb", "5 LB"));
+}
+
+}  // namespace norvane::test

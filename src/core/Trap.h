@@ -16,9 +16,14 @@ inline constexpr std::string_view kStandardClosing = ".  If error persists conta
 std::string ReportText(std::string_view label, const RuntimeError& error, std::string_view closing = kStandardClosing);
 
 /// Runs `body` as a procedure under the standard error trap: on an error it reports once under `label` and leaves the
-/// body at once. True if the body came to its end. What the body had written into the caller's variables stays.
+/// body at once. True if the body came to its end. What the body had written into the caller's variables stays. A
+/// procedure without a label has no trap: its errors go to the caller.
 template <class Body>
 bool Trap(Reporter& reporter, std::string_view label, Body&& body, std::string_view closing = kStandardClosing) {
+  if (label.empty()) {
+    std::forward<Body>(body)();
+    return true;
+  }
   try {
     std::forward<Body>(body)();
     return true;

@@ -3,8 +3,14 @@
 #include "forms/Program.h"
 #include "screens/About.h"
 #include "screens/Customer.h"
+#include "screens/ExpenseTypes.h"
+#include "screens/InventoryCats.h"
 #include "screens/Notices.h"
+#include "screens/PaymentCategories.h"
 #include "screens/Profile.h"
+#include "screens/ShippingTypes.h"
+#include "screens/frmInventory.h"
+#include "screens/frmSetup.h"
 #include "screens/intro.h"
 
 namespace norvane {
@@ -13,8 +19,14 @@ void RegisterScreens(Program& program) {
   ScreenTable& screens = program.screens;
   screens.Add<About>();
   screens.Add<Customer>();
-  screens.Add<intro>();
+  screens.Add<ExpenseTypes>();
+  screens.Add<InventoryCats>();
+  screens.Add<PaymentCategories>();
   screens.Add<Profile>();
+  screens.Add<ShippingTypes>();
+  screens.Add<frmInventory>();
+  screens.Add<frmSetup>();
+  screens.Add<intro>();
   RegisterNotices(screens);
 }
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "forms/Form.h"
+#include "screens/RowEditing.h"
+
+namespace norvane {
+
+/// The inventory's categories, edited in place and stored at once. Leaving brings the inventory up anew on category 1.
+class InventoryCats : public Form {
+ public:
+  static constexpr const char* kName = "InventoryCats";
+  explicit InventoryCats(Program& program);
+
+  Grid InventoryList{*this, "InventoryList", GridKind::Editable};
+  Button btnNew{*this, "btnNew", {.caption = "&New", .icon = "add"}};
+  Button btnDelete{*this, "btnDelete", {.caption = "&Delete", .icon = "delete"}};
+  Button btnExit{*this, "btnExit", {.caption = "&Exit", .icon = "exit"}};
+
+ private:
+  void Form_Load() override;
+  void InventoryList_AfterEdit(int row);
+  void InventoryList_Click();
+  void SelectRow(int row);
+  void SaveRow();
+  void btnDelete_Click();
+  void DeleteSelected();
+  void btnExit_Click();
+
+  RowEditing rows_;
+  std::string SelCatName;  ///< of the row clicked last
+};
+
+}  // namespace norvane

@@ -1,0 +1,117 @@
+#include "screens/RowEditing.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/Trap.h"
+
+namespace norvane {
+
+RowEditing::RowEditing(Grid& grid, Globals& globals, Reporter& reporter, RowEditingRules rules,
+                       std::function<void()> saveRow)
+    : grid_(grid), globals_(globals), reporter_(reporter), rules_(std::move(rules)), saveRow_(std::move(saveRow)) {
+  grid_.LeaveCell = [this] { LeaveCell(); };
+  grid_.RowColChange = [this] { RowColChange(); };
+  grid_.LostFocus = [this] { LostFocus(); };
+}
+
+// The markers.
+
+void RowEditing::SetOldRowStatus() {
+  Trap(reporter_, rules_.labels.setOldRowStatus, [&] {
+    const std::int32_t row = RowLeft();
+    if (row <= 0) return;
+    const std::string key = grid_.Cell(row, 1);
+    if (key.empty()) {
+      SetMarker(row, "*");
+    } else if (rules_.zeroMeansStarted && key == "0") {
+      SetMarker(row, "?");
+    } else if (row == RowEntered()) {
+      SetMarker(row, globals_.RowChanged ? "?" : ">");
+    } else {
+      SetMarker(row, "");
+    }
+  });
+}
+
+void RowEditing::SetNewRowStatus() {
+  Trap(reporter_, rules_.labels.setNewRowStatus, [&] {
+    const std::int32_t row = RowEntered();
+    if (row <= 0) return;
+    const std::string key = grid_.Cell(row, 1);
+    if (key.empty()) {
+      SetMarker(row, "*");
+    } else if (rules_.zeroMeansStarted && key == "0") {
+      SetMarker(row, "?");
+    } else {
+      SetMarker(row, ">");
+    }
+  });
+}
+
+// Leaving a row.
+
+void RowEditing::LeaveCell() {
+  OldRow = grid_.Row();
+}
+
+void RowEditing::RowColChange() {
+  Trap(reporter_, rules_.labels.rowColChange, [&] {
+    NewRow = grid_.Row();
+    if (globals_.RowChanged && NewRow != OldRow) AfterRowEdit();
+    SetOldRowStatus();
+    if (OldRow != NewRow) SetNewRowStatus();
+  });
+}
+
+void RowEditing::LostFocus() {
+  Trap(reporter_, rules_.labels.lostFocus, [&] {
+    TakeCurrentRow();
+    CommitPending();
+    SetOldRowStatus();
+  });
+}
+
+void RowEditing::AfterRowEdit() {
+  Trap(reporter_, rules_.labels.afterRowEdit, [&] {
+    const std::int32_t entered = RowEntered();
+    if (entered > 0) {
+      if (rules_.marksRowEntered) SetMarker(entered, "?");
+      if (grid_.Rows() >= 2 && HoldsNothing(entered - 1)) SendCursorBack();
+    }
+    saveRow_();
+  });
+}
+
+bool RowEditing::HoldsNothing(std::int32_t row) const {
+  return std::all_of(rules_.testColumns.begin(), rules_.testColumns.end(),
+                     [&](int col) { return grid_.Cell(row, col).empty(); });
+}
+
+// Writing Row raises the grid's events before this goes on: OldRow then holds the row just entered.
+void RowEditing::SendCursorBack() {
+  grid_.SetRow(RowEntered() - 1);
+  if (rules_.scrollsBack && grid_.TopRow() >= 2) grid_.SetTopRow(grid_.Row() - 1);
+}
+
+void RowEditing::TakeCurrentRow() {
+  OldRow = grid_.Row();
+}
+
+void RowEditing::MarkChanged() {
+  TakeCurrentRow();
+  globals_.RowChanged = true;
+}
+
+void RowEditing::CommitPending() {
+  if (globals_.RowChanged) AfterRowEdit();
+}
+
+void RowEditing::GoToNewRow() {
+  if (!grid_.Cell(grid_.Rows() - 1, 1).empty()) grid_.SetRows(grid_.Rows() + 1);
+  if (rules_.scrollsToNewRow && grid_.Rows() >= 7) grid_.SetTopRow(grid_.Rows() - 5);
+  grid_.SetRow(grid_.Rows() - 1);
+  grid_.SetFocus();
+}
+
+}  // namespace norvane

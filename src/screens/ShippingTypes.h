@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "forms/Form.h"
+#include "screens/RowEditing.h"
+
+namespace norvane {
+
+/// The shipping options that invoices choose from. Service and weight are the key, so a changed charge replaces the row
+/// and a changed service or weight stands in the table beside the old one.
+class ShippingTypes : public Form {
+ public:
+  static constexpr const char* kName = "ShippingTypes";
+  explicit ShippingTypes(Program& program);
+
+  Grid ShippingList{*this, "ShippingList", GridKind::Editable};
+  Button btnNew{*this, "btnNew", {.caption = "&New", .icon = "add"}};
+  Button btnDelete{*this, "btnDelete", {.caption = "&Delete", .icon = "delete"}};
+  Button btnExit{*this, "btnExit", {.caption = "&Exit", .icon = "exit"}};
+
+ private:
+  void Form_Load() override;
+  void ShippingList_AfterEdit(int row);
+  void ShippingList_Click();
+  void SaveRow();
+  void StoreRow(std::int32_t row);
+  void ReadList();
+  void btnNew_Click();
+  void btnDelete_Click();
+  void btnExit_Click();
+  bool HasKey(std::int32_t row) const;
+
+  RowEditing rows_;
+  std::string SelectedType;
+  std::string SelectedOption;
+};
+
+}  // namespace norvane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "data/cSetup.h"
+#include "forms/Form.h"
+#include "screens/RowEditing.h"
+
+namespace norvane {
+
+/// What a list of names with one table behind it states of its own.
+struct TypeListKind {
+  const char* name;
+  const char* caption;
+  const char* formatString;
+  Object<Recordset> Globals::*list;  ///< the shared list, read anew after each change
+  Object<Recordset> (cSetup::*read)();
+  void (cSetup::*save)(const std::string&);
+  void (cSetup::*remove)(const std::string&);
+  struct Labels {
+    std::string_view formLoad, afterEdit, click, saveRow, btnNew, btnDelete;
+  } labels;
+  RowEditingRules::Labels rowLabels;
+};
+
+/// A lookup table of names, edited in place. The name is the key, so an edit is stored at once, as a further row: a
+/// changed name stands in the table beside the old one.
+class TypeList : public Form {
+ public:
+  TypeList(Program& program, const TypeListKind& kind);
+
+  Grid PaymentList{*this, "PaymentList", GridKind::Editable};
+  Button btnNew{*this, "btnNew", {.caption = "&New", .icon = "add"}};
+  Button btnDelete{*this, "btnDelete", {.caption = "&Delete", .icon = "delete"}};
+  Button btnExit{*this, "btnExit", {.caption = "&Exit", .icon = "exit"}};
+
+ protected:
+  Recordset& List() const { return *(globals.*kind_.list); }
+  virtual void btnExit_Click();
+
+ private:
+  void Form_Load() override;
+  void PaymentList_AfterEdit(int row);
+  void PaymentList_Click();
+  void SaveRow();
+  void ReadList();
+  void btnNew_Click();
+  void btnDelete_Click();
+
+  const TypeListKind& kind_;
+  RowEditing rows_;
+  std::string SelectedType;
+};
+
+}  // namespace norvane

@@ -35,7 +35,6 @@ Customer::Customer(Program& host) : Form(host, kName, {.caption = "Norvanes", .w
   CustList2.DblClick = [this] { CustList2_DblClick(); };
   CustList2.KeyPress = [this](int keyAscii) { CustList2_KeyPress(keyAscii); };
   tmrClock.Tick = [this] { tmrClock_Timer(); };
-  CustList2.SetFocus();
 }
 
 /// A way to a screen that the program doesn't hold stands there disabled.
@@ -104,6 +103,7 @@ void Customer::WireMenu() {
 // Start-up.
 
 void Customer::Form_Load() {
+  CustList2.SetFocus();
   Trapped("Client.Form_Load -", [&] {
     CreateSharedObjects();
     SetCaption("Norvanes");

@@ -118,7 +118,6 @@ Profile::Profile(Program& host) : Form(host, kName, {.caption = "Client Profile"
   Command1.Click = [this] { Command1_Click(); };
   Command2.Click = [this] { Command2_Click(); };
   WireChanges();
-  txtFname.SetFocus();
 }
 
 layout::Node Profile::ClientTab() {
@@ -177,6 +176,7 @@ void Profile::WireChanges() {
 }
 
 void Profile::Form_Load() {
+  if (!IsVisible()) txtFname.SetFocus();
   Trapped("Profile.Form_Load -", [&] {
     globals.oClient->OpenCn();
     globals.oClient->GetClient(globals.CurCustNum);

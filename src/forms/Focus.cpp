@@ -40,15 +40,17 @@ void Focus::ComeForward(Form& form) {
   form_ = &form;
   std::erase(order_, &form);
   order_.push_back(&form);
-  form.desktop.FormShown(form);
 }
 
 void Focus::MoveTo(Control& control) {
   Form& form = control.Parent();
   if (control_ == &control || !form.CanBeInFront() || Waits(form)) return;
   if (!Lose() || !form.IsVisible()) return;
+  if (form_ != &form) form.desktop.FormShown(form);
   ComeForward(form);
-  Gain(control);
+  // What happened as the other control lost it may have closed this one.
+  Control* taker = control.Enabled() && control.Visible() ? &control : form.FirstFocus();
+  if (taker) Gain(*taker);
 }
 
 void Focus::Enter(Form& form) {
@@ -77,7 +79,9 @@ void Focus::Leave(Form& form) {
   } else if (form.Owner() && form.Owner()->IsVisible()) {
     next = form.Owner();
   }
-  if (next) Activate(*next);
+  if (!next) return;
+  next->desktop.FormShown(*next);
+  Activate(*next);
 }
 
 void Focus::Abandon(Control& control) {

@@ -22,7 +22,7 @@ class Focus {
   void MoveTo(Control& control);
   /// A form has become visible: it comes to the front, or right behind the modal form it has to wait for.
   void Enter(Form& form);
-  /// A form comes to the front: LostFocus there, GotFocus here.
+  /// A form has come to the front outside: LostFocus there, GotFocus here.
   void Activate(Form& form);
   /// The form has gone from view: its owner or whoever was in front before comes forward.
   void Leave(Form& form);

@@ -23,7 +23,7 @@ enum class WindowState { Normal, Minimized, Maximized };
 
 /// What a form tells of itself once.
 struct FormStyle {
-  std::string caption;
+  std::string caption = "";
   Twips width = 0;  ///< outer first size; 0 for what its content asks for
   Twips height = 0;
   bool resizable = true;

@@ -1,0 +1,204 @@
+#include "GridForm.h"
+
+namespace norvane::test {
+namespace {
+
+/// A table without a cursor's events: what rows, columns and cells hold, and where the cursor is taken silently.
+class GridTest : public GridFormTest {
+ protected:
+  std::string Row(int row) {
+    std::string text;
+    for (int col = 0; col < grid().Cols(); ++col) text += (col ? "|" : "") + grid().Cell(row, col);
+    return text;
+  }
+};
+
+TEST_F(GridTest, ANewGridHasItsHeadingAlone) {
+  Grid fresh(form(), "fresh", GridKind::Editable);
+  EXPECT_EQ(fresh.Rows(), 1);
+  EXPECT_EQ(fresh.Row(), 0);
+  EXPECT_EQ(fresh.Col(), 1);
+  EXPECT_EQ(list().Col(), 0);
+  fresh.SetRows(3);
+  EXPECT_EQ(fresh.Row(), 1) << "the cursor stands on the first data row when there is one";
+}
+
+TEST_F(GridTest, TheFormatGivesColumnsHeadingsAndAlignment) {
+  EXPECT_EQ(grid().Cols(), 4);
+  EXPECT_EQ(Row(0), "|Key|Name|Price");
+  EXPECT_EQ(grid().Alignment(0), ColumnAlignment::Centre);
+  EXPECT_EQ(grid().Alignment(2), ColumnAlignment::General);
+  EXPECT_EQ(grid().Alignment(3), ColumnAlignment::Right);
+  grid().SetFormatString("<A|B");
+  EXPECT_EQ(grid().Cols(), 2);
+  EXPECT_EQ(grid().Alignment(0), ColumnAlignment::Left);
+  EXPECT_EQ(Row(1), "|1");
+  grid().SetCols(4);
+  EXPECT_EQ(Row(1), "|1||") << "columns cut off are gone";
+}
+
+TEST_F(GridTest, RowsComeAndGo) {
+  grid().AddItem("\t9\tWasher\t$9.00\tbeyond", 2);
+  EXPECT_EQ(Row(2), "|9|Washer|$9.00");
+  EXPECT_EQ(Row(3), "|2|Nut|$2.00");
+  grid().RemoveItem(1);
+  EXPECT_EQ(Row(1), "|9|Washer|$9.00");
+  grid().SetRows(6);
+  EXPECT_EQ(Row(5), "|||");
+  grid().SetCell(5, 3, "a\tb");
+  EXPECT_EQ(Row(5), "|||a b");
+  grid().SetCell(5, 1, "key");
+  grid().SetCell(5, 3, "");
+  EXPECT_EQ(Row(5), "|key||");
+  grid().Clear();
+  EXPECT_EQ(grid().Rows(), 6);
+  EXPECT_EQ(Row(0), "|||");
+  EXPECT_EQ(grid().ColWidth(1), 0);
+  EXPECT_EQ(grid().Row(), 1);
+  EXPECT_EQ(grid().Col(), 2);
+  EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(GridTest, TheGridTakesItsCursorAlongSilently) {
+  grid().SetRow(3);
+  Taken();
+  grid().AddItem("\t0\tabove\t", 1);
+  EXPECT_EQ(grid().Row(), 3);
+  grid().RemoveItem(3);
+  EXPECT_EQ(grid().Row(), 3);
+  grid().RemoveItem(3);
+  EXPECT_EQ(grid().Row(), 2) << "the last one";
+  grid().SetRows(1);
+  EXPECT_EQ(grid().Row(), 0);
+  grid().SetRows(2);
+  EXPECT_EQ(grid().Row(), 1);
+  EXPECT_THAT(log, IsEmpty());
+  grid().SetRow(0);
+  grid().AddItem("");
+  EXPECT_EQ(grid().Row(), 0) << "put there by code, it stays";
+}
+
+TEST_F(GridTest, WhatIsOutsideIsRefused) {
+  Grid& g = grid();
+  const std::vector<std::function<void()>> refused = {
+      [&] { g.Cell(4, 0); },          [&] { g.Cell(0, 4); },     [&] { g.SetCell(-1, 0, ""); },
+      [&] { g.SetRow(4); },           [&] { g.SetRow(-1); },     [&] { g.SetCol(4); },
+      [&] { g.RemoveItem(4); },       [&] { g.RemoveItem(0); },  [&] { g.AddItem("", 5); },
+      [&] { g.SetColWidth(4, 100); }, [&] { g.AddItem("", 0); }, [&] { g.SetRows(0); },
+  };
+  for (std::size_t i = 0; i < refused.size(); ++i) EXPECT_EQ(NumberOf(refused[i]), 381) << i;
+  EXPECT_EQ(g.Rows(), 4);
+}
+
+TEST_F(GridTest, ABooleanColumnTurnsItsWordsIntoNumbers) {
+  grid().SetColDataType(3, ColumnType::Boolean);
+  grid().AddItem("\t4\tNail\tTrue");
+  grid().SetCell(1, 3, "False");
+  grid().SetCell(2, 3, "");
+  EXPECT_EQ(grid().Cell(4, 3), "-1");
+  EXPECT_EQ(grid().Cell(1, 3), "0");
+  EXPECT_EQ(grid().Cell(2, 3), "");
+  EXPECT_EQ(grid().Cell(0, 3), "Price");
+}
+
+TEST_F(GridTest, AKeyedColumnShowsTheTextsOfItsKeys) {
+  Grid& g = grid();
+  g.SetColComboList(2, "#3;Cash|#4;Visa; gold");
+  EXPECT_EQ(g.Helper(2), CellHelper::KeyedDropDown);
+  EXPECT_THAT(g.DropDownItems(2), ElementsAre("Cash", "Visa; gold"));
+  g.SetCell(1, 2, "4");
+  g.SetCell(2, 2, "7");
+  EXPECT_EQ(g.DisplayText(1, 2), "Visa; gold");
+  EXPECT_EQ(g.Cell(1, 2), "4");
+  EXPECT_EQ(g.DisplayText(2, 2), "7");
+  EXPECT_EQ(g.DisplayText(3, 2), "Screw") << "what is no key shows as it stands";
+
+  g.SetColComboList(2, "#4;Check");
+  EXPECT_EQ(g.Cell(1, 2), "Visa; gold") << "a key of the old list takes the text it showed";
+  EXPECT_EQ(g.Cell(2, 2), "7");
+}
+
+TEST_F(GridTest, TheOtherHelpersOfAColumn) {
+  Grid& g = grid();
+  g.SetColComboList(2, "...");
+  EXPECT_EQ(g.Helper(2), CellHelper::Button);
+  g.SetColComboList(2, "#1 Plumbing|Acme");
+  EXPECT_EQ(g.Helper(2), CellHelper::DropDown);
+  EXPECT_THAT(g.DropDownItems(2), ElementsAre("#1 Plumbing", "Acme"));
+  g.SetColComboList(2, "");
+  EXPECT_EQ(g.Helper(2), CellHelper::None);
+}
+
+TEST_F(GridTest, ScrollsTheCursorIntoViewAndClampsTheTop) {
+  Grid& g = grid();
+  g.SetVisibleRows(5);
+  g.SetRows(21);
+  g.SetRow(5);
+  EXPECT_EQ(g.TopRow(), 1);
+  g.SetRow(20);
+  EXPECT_EQ(g.TopRow(), 16);
+  g.SetRow(18);
+  EXPECT_EQ(g.TopRow(), 16);
+  g.SetRow(3);
+  EXPECT_EQ(g.TopRow(), 3);
+  g.SetTopRow(99);
+  EXPECT_EQ(g.TopRow(), 20);
+  g.SetTopRow(-5);
+  EXPECT_EQ(g.TopRow(), 1);
+  g.SetTopRow(15);
+  g.SetRows(4);
+  EXPECT_EQ(g.TopRow(), 3);
+}
+
+TEST_F(GridTest, TheCellsPlaceFollowsWidthsAndScrolling) {
+  Grid& g = grid();
+  g.SetRowHeight(250);
+  g.SetColWidth(0, 300);
+  g.SetColWidth(2, 1500);
+  g.SetColWidth(3, 700);
+  g.SetCol(3);
+  g.SetRow(3);
+  g.SetTopRow(2);
+  EXPECT_EQ(g.CellLeft(), 1800);
+  EXPECT_EQ(g.CellWidth(), 700);
+  EXPECT_EQ(g.CellTop(), 500);
+}
+
+/// Writes down what an observer hears of a grid.
+struct Observer : GridObserver {
+  explicit Observer(Grid& g) : grid(g) { grid.view = this; }
+  ~Observer() override { grid.view = nullptr; }
+  void ColumnsChanged() override { heard.emplace_back("columns"); }
+  void RowsReset() override { heard.emplace_back("reset"); }
+  void RowsInserted(int first, int count) override { Rows("inserted", first, count); }
+  void RowsRemoved(int first, int count) override { Rows("removed", first, count); }
+  void CellChanged(int row, int col) override { Rows("cell", row, col); }
+  void CursorMoved() override { heard.push_back("cursor " + std::to_string(grid.Row())); }
+  void TopRowChanged() override { heard.push_back("top " + std::to_string(grid.TopRow())); }
+  void EditChanged() override { heard.push_back("edit " + grid.EditText()); }
+  void Rows(const std::string& what, int a, int b) {
+    heard.push_back(what + " " + std::to_string(a) + " " + std::to_string(b));
+  }
+  Grid& grid;
+  Log heard;
+};
+
+TEST_F(GridTest, TheObserverHearsEveryChange) {
+  Observer observer(grid());
+  grid().SetRow(3);
+  grid().AddItem("x", 1);
+  grid().SetRows(2);
+  grid().RemoveItem(1);
+  grid().SetRows(3);
+  grid().SetCell(1, 2, "x");
+  grid().Clear();
+  EXPECT_THAT(observer.heard, ElementsAre("cursor 3", "inserted 1 1", "removed 2 3", "cursor 1", "removed 1 1",
+                                          "cursor 0", "inserted 1 2", "cursor 1", "cell 1 2", "reset"));
+  observer.heard.clear();
+  Type(grid(), "ab");
+  grid().UserKey(Key::Enter);
+  EXPECT_THAT(observer.heard, ElementsAre("edit ", "edit a", "edit ab", "cell 1 2", "edit "));
+}
+
+}  // namespace
+}  // namespace norvane::test

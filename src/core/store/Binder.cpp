@@ -28,13 +28,15 @@ void BindNumber(sqlite3_stmt* statement, int parameter, double value) {
 
 /// Money is compared exactly: with a whole count of ten-thousandths where the digits give one, else with its fraction.
 void BindMoneyOperand(sqlite3_stmt* statement, int parameter, const std::string& text) {
-  const double value = UnitedStates().ToDouble(text);
   const std::size_t point = text.find('.');
-  const bool exact = text.find_first_of("eE") == std::string::npos &&
-                     (point == std::string::npos || text.size() - point - 1 <= 4) &&
-                     std::abs(value) < 922337203685477.0;
-  if (exact) return BindWhole(statement, parameter, UnitedStates().ToCurrency(text).TenThousandths());
-  BindNumber(statement, parameter, value * 10'000.0);
+  const bool fourDecimals = point == std::string::npos || text.size() - point - 1 <= 4;
+  if (fourDecimals && text.find_first_of("eE") == std::string::npos) {
+    try {
+      return BindWhole(statement, parameter, UnitedStates().ToCurrency(text).TenThousandths());
+    } catch (const RuntimeError&) {  // more than any money
+    }
+  }
+  BindNumber(statement, parameter, UnitedStates().ToDouble(text) * 10'000.0);
 }
 
 /// The literal as a text that the conversions read, or as a date.

@@ -110,7 +110,7 @@ class Scanner {
       AddLiteral(TokenKind::Date, length, std::move(literal));
       result_.shape += "# ";
     } catch (const RuntimeError&) {
-      Add(TokenKind::BadDate, length);
+      AddUnreadable(TokenKind::BadDate, length);
     }
   }
 
@@ -129,7 +129,12 @@ class Scanner {
     result_.shape += ' ';
   }
 
-  void AddUnterminated() { Add(TokenKind::Unterminated, statement_.size() - position_); }
+  void AddUnterminated() { AddUnreadable(TokenKind::Unterminated, statement_.size() - position_); }
+
+  void AddUnreadable(TokenKind kind, std::size_t length) {
+    Add(kind, length);
+    result_.shape += "! ";
+  }
 
   std::string_view statement_;
   std::size_t position_ = 0;

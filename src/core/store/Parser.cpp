@@ -384,7 +384,7 @@ class StatementParser {
                                              {"max", FunctionName::Max}}) {
       if (EqualNoCase(name, spelling)) return Make(first, Function{function, std::move(argument)});
     }
-    throw store_error::UndefinedFunction(name, ExpressionText());
+    throw store_error::UndefinedFunction(name);
   }
 
   ExpressionPtr ParseColumn() {

@@ -39,10 +39,14 @@ std::string Scope::Sql(ColumnReference column) const {
   return QuotedName(tables_[column.table]->name) + "." + QuotedName(NameOf(column));
 }
 
-std::vector<ColumnReference> Scope::FirstKey() const {
-  std::vector<ColumnReference> key;
-  for (const std::size_t column : tables_.front()->key) key.push_back({0, column});
-  return key;
+std::vector<ColumnReference> Scope::KeyOrder() const {
+  std::vector<ColumnReference> order;
+  for (std::size_t table = 0; table < tables_.size(); ++table) {
+    for (const std::size_t column : tables_[table]->key) {
+      if (!Determines(order, {table, column})) order.push_back({table, column});
+    }
+  }
+  return order;
 }
 
 bool Scope::Determines(const std::vector<ColumnReference>& columns, ColumnReference wanted) const {

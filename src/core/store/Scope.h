@@ -30,8 +30,8 @@ class Scope {
   FieldType TypeOf(ColumnReference column) const { return ColumnOf(column).type; }
   const std::string& NameOf(ColumnReference column) const { return ColumnOf(column).name; }
   std::string Sql(ColumnReference column) const;
-  /// The key of the first table named; empty if it has none.
-  std::vector<ColumnReference> FirstKey() const;
+  /// What puts the rows in the order of the first table's key, then of the next one's as far as that is not settled.
+  std::vector<ColumnReference> KeyOrder() const;
 
   /// The columns without those that follow from the others: what a key determines need not be grouped by, and a
   /// grouping by one key is read off in key order without a sort.

@@ -105,9 +105,8 @@ RuntimeError AggregateNotAllowed(std::string_view expression) {
               "Cannot have aggregate function in expression (" + std::string(expression) + ").");
 }
 
-RuntimeError UndefinedFunction(std::string_view name, std::string_view expression) {
-  return Make(StoreErrorNumber::Syntax,
-              "Undefined function " + Quoted(name) + " in expression " + Quoted(expression) + ".");
+RuntimeError UndefinedFunction(std::string_view name) {
+  return Make(StoreErrorNumber::Syntax, "Undefined function " + Quoted(name) + " in expression.");
 }
 
 RuntimeError NotInAggregate(std::string_view expression) {

@@ -51,7 +51,7 @@ RuntimeError TooComplex();
 RuntimeError IncompleteClause();
 RuntimeError AmbiguousName(std::string_view name);
 RuntimeError AggregateNotAllowed(std::string_view expression);
-RuntimeError UndefinedFunction(std::string_view name, std::string_view expression);
+RuntimeError UndefinedFunction(std::string_view name);
 RuntimeError NotInAggregate(std::string_view expression);
 
 // What the table or the file refuses.

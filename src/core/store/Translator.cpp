@@ -209,7 +209,7 @@ class StatementTranslator {
       terms.push_back(Sortable(typed.sql, typed.type) + (item.descending ? " DESC" : ""));
     }
     typer_.AllowAggregates(false);
-    for (const ColumnReference column : grouped_ ? groupKey_ : scope_.FirstKey()) {
+    for (const ColumnReference column : grouped_ ? groupKey_ : scope_.KeyOrder()) {
       const std::string sql = scope_.Sql(column);
       if (std::find(plain.begin(), plain.end(), sql) != plain.end()) continue;
       terms.push_back(Sortable(sql, scope_.TypeOf(column)));

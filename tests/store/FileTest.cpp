@@ -1,0 +1,127 @@
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+
+#include "store/StoreTest.h"
+
+namespace norvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileTest : public testing::Test {
+ protected:
+  std::string OpeningError(const fs::path& file) {
+    return ErrorOf([&] { ConnectionTo(engine, file.string())->Open(); });
+  }
+
+  void Write(const fs::path& file, const std::string& content) { std::ofstream(file, std::ios::binary) << content; }
+
+  /// The names of the files beside the database.
+  std::vector<std::string> Files() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(database.Folder())) names.push_back(entry.path().filename());
+    return names;
+  }
+
+  static void Run(Connection& connection, const std::string& statement) {
+    Recordset().Open(statement, connection, CursorType::Dynamic, LockType::Optimistic);
+  }
+
+  test::Database database;
+  Engine engine;
+};
+
+TEST_F(FileTest, ReportsFilesThatItCannotOpen) {
+  const fs::path folder = database.Folder();
+  const std::string missing = (folder / "none.mdb").string();
+  EXPECT_EQ(OpeningError(missing), "-2147467259 Could not find file '" + missing + "'.");
+  const std::string nowhere = (folder / "nowhere" / "norvane.mdb").string();
+  EXPECT_EQ(OpeningError(nowhere), "-2147467259 Could not find file '" + nowhere + "'.");
+  EXPECT_EQ(OpeningError(folder), "-2147467259 Could not find file '" + folder.string() + "'.");
+
+  const fs::path bad = folder / "bad.mdb";
+  for (const std::string& content : {std::string(), std::string("not a database"), std::string(5000, 'x')}) {
+    Write(bad, content);
+    EXPECT_EQ(OpeningError(bad), "-2147467259 Unrecognized database format '" + bad.string() + "'.");
+  }
+  EXPECT_THAT(Files(), testing::UnorderedElementsAre("norvane.mdb", "bad.mdb"));
+  EXPECT_EQ(engine.OpenConnections(bad), 0);
+}
+
+TEST_F(FileTest, ReportsAFileThatWasCutOff) {
+  fs::resize_file(database.File(), 8192);
+  auto connection = ConnectionTo(engine, database.File().string());
+  EXPECT_EQ(ErrorOf([&] {
+              connection->Open();
+              Run(*connection, "select * from tb_GL");
+            }),
+            "-2147467259 Unrecognized database format '" + database.File().string() + "'.");
+}
+
+TEST_F(FileTest, FindsTheFileInAnyCase) {
+  for (const char* name : {"norvane.mdb", "Norvane.mdb", "NORvane.mdb"}) {
+    EXPECT_EQ(OpeningError(database.Folder() / name), "") << name;
+  }
+  EXPECT_THAT(Files(), testing::ElementsAre("norvane.mdb"));
+}
+
+TEST_F(FileTest, ReportsAFileThatAnotherHolds) {
+  const std::string inUse = "-2147467259 Could not use '" + database.File().string() + "'; file already in use.";
+  auto connection = ConnectionTo(engine, database.File().string());
+  {
+    const test::OtherUser other(database, test::OtherUser::Work::Locking);
+    EXPECT_EQ(OpeningError(database.File()), inUse);
+  }
+  connection->Open();
+  {
+    const test::OtherUser other(database, test::OtherUser::Work::Writing);
+    EXPECT_EQ(ErrorOf([&] { Run(*connection, "select * from tb_GL"); }), "");
+    EXPECT_EQ(ErrorOf([&] { Run(*connection, "delete * from tb_GL"); }), inUse);
+  }
+  EXPECT_EQ(ErrorOf([&] { Run(*connection, "delete * from tb_GL"); }), "");
+}
+
+TEST_F(FileTest, ReadsAReadOnlyFileAndRefusesToChangeIt) {
+  fs::permissions(database.File(), fs::perms::owner_read);
+  auto connection = ConnectionTo(engine, database.File().string());
+  connection->Open();
+  Recordset rows;
+  rows.Open("select type from tb_PaymentTypes", *connection, CursorType::ForwardOnly);
+  EXPECT_GT(rows.RecordCount(), 0);
+  EXPECT_EQ(ErrorOf([&] { Run(*connection, "delete * from tb_PaymentTypes"); }),
+            "-2147467259 Cannot update.  Database or object is read-only.");
+}
+
+TEST_F(FileTest, LeavesOneFileAndCountsItsConnections) {
+  EXPECT_EQ(engine.OpenConnections(database.File()), 0);
+  auto one = ConnectionTo(engine, database.File().string());
+  auto other = ConnectionTo(engine, (database.Folder() / "." / "NORVANE.mdb").string());
+  one->Open();
+  other->Open();
+  EXPECT_EQ(engine.OpenConnections(database.File()), 2);
+  Run(*one, "insert into tb_InvCategories (CatNum, Description) values (2, 'x')");
+  other.reset();
+  EXPECT_EQ(engine.OpenConnections(database.File()), 1);
+  one->Close();
+  EXPECT_EQ(engine.OpenConnections(database.File()), 0);
+  EXPECT_EQ(engine.OpenConnections(database.Folder() / "none.mdb"), 0);
+  EXPECT_THAT(Files(), testing::ElementsAre("norvane.mdb"));
+  EXPECT_EQ(database.Cell("pragma integrity_check"), "ok");
+  EXPECT_EQ(database.Cell("pragma journal_mode"), "delete");
+}
+
+TEST_F(FileTest, LearnsTheTablesAnewWhenTheyChange) {
+  auto connection = ConnectionTo(engine, database.File().string());
+  connection->Open();
+  Run(*connection, "select * from tb_Vendor");
+  connection->Close();
+  database.Execute("drop table tb_Vendor; alter table tb_GL add column Extra currency");
+  connection->Open();
+  EXPECT_THAT(ErrorOf([&] { Run(*connection, "select * from tb_Vendor"); }),
+              testing::HasSubstr("cannot find the input table or query 'tb_Vendor'"));
+  EXPECT_EQ(ErrorOf([&] { Run(*connection, "select Extra from tb_GL"); }), "");
+}
+
+}  // namespace
+}  // namespace norvane

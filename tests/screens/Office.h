@@ -1,0 +1,53 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <initializer_list>
+#include <memory>
+#include <string>
+
+#include "forms/Program.h"
+#include "screens/Customer.h"
+#include "screens/Screens.h"
+#include "support/Database.h"
+#include "support/ScriptedDesktop.h"
+
+namespace norvane::test {
+
+/// The program at work on a database of its own: a test fills the tables, starts the program, and uses it as a person
+/// does.
+class Office : public ::testing::Test {
+ protected:
+  Office() { RegisterScreens(program); }
+
+  void AddClient(int number, const std::string& lname, const std::string& fname) {
+    database.Execute("INSERT INTO tb_Client (CustNum, Lname, Fname, Discount) VALUES (" + std::to_string(number) +
+                     ", '" + lname + "', '" + fname + "', 0)");
+  }
+  /// Three clients, whose order by name is not the one of their numbers.
+  void AddClients() {
+    AddClient(1001, "Moss", "Carl");
+    AddClient(1002, "Adams", "Bea");
+    AddClient(1003, "Moss", "Ada");
+  }
+  /// Empty screens under these names, whatever the room has.
+  void StandIn(std::initializer_list<const char*> names) {
+    for (const char* name : names) {
+      program.screens.AddFactory(
+          name, [name](Program& host) { return std::make_shared<Form>(host, name, FormStyle{.caption = name}); });
+    }
+  }
+  void Start() { program.Start(Customer::kName); }
+
+  Customer& Main() { return program.screens.Touch<Customer>(); }
+  bool IsOpen(const char* screen) { return program.screens.Find(screen) != nullptr; }
+  void Select(int row) { Main().CustList2.UserClick(row, 2); }
+  const Message& LastBox() { return desktop.boxes.back(); }
+
+  Database database;
+  ScriptedDesktop desktop;
+  Program program{desktop, RegionalSettings{}, database.Folder()};
+  Globals& globals = program.globals;
+};
+
+}  // namespace norvane::test

@@ -57,17 +57,17 @@ bool Conversions::IsNumeric(std::string_view text) const {
 }
 
 Date Conversions::ToDate(std::string_view text) const {
-  return OrMismatch(ParseDate(text, settings_, ThisYear()));
+  return OrMismatch(ParseDate(text, settings_, clock_));
 }
 
 bool Conversions::IsDate(std::string_view text) const {
-  return ParseDate(text, settings_, ThisYear()).has_value();
+  return ParseDate(text, settings_, clock_).has_value();
 }
 
 Date Conversions::ToDateFromMask(std::string_view text) const {
   RegionalSettings masked;
   masked.lastTwoDigitYear = settings_.lastTwoDigitYear;
-  return OrMismatch(ParseDate(text, masked, ThisYear()));
+  return OrMismatch(ParseDate(text, masked, clock_));
 }
 
 std::string Conversions::ToText(std::int32_t value) const {

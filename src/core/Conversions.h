@@ -103,7 +103,6 @@ class Conversions {
   Date DateOf(const Value& value) const;
   bool BooleanOf(const Value& value) const;
   std::string CurrencyTextOf(const Value& value) const;
-  int ThisYear() const { return clock_.Now().Year(); }
 
   RegionalSettings settings_;
   const Clock& clock_;

@@ -43,8 +43,8 @@ int PlaceOfName(std::string_view word, const std::array<std::string, count>& nam
 /// Reads one text from front to end, collecting what it finds, and puts the date together from that.
 class DateReader {
  public:
-  DateReader(std::string_view text, const RegionalSettings& settings, int thisYear)
-      : rest_(text), settings_(settings), thisYear_(thisYear) {}
+  DateReader(std::string_view text, const RegionalSettings& settings, const Clock& clock)
+      : rest_(text), settings_(settings), clock_(clock) {}
 
   std::optional<Date> Read() {
     SkipBlanks(rest_);
@@ -60,10 +60,14 @@ class DateReader {
   /// One mark between two parts, blanks around it. Behind the last part none may stand.
   bool SkipSeparator() {
     SkipBlanks(rest_);
-    if (!Take(rest_, "/") && !Take(rest_, "-") && !Take(rest_, ",") && !Take(rest_, settings_.dateSeparator))
-      return true;
+    if (!TakeSeparator()) return true;
     SkipBlanks(rest_);
     return !rest_.empty();
+  }
+
+  /// A comma stands beside names only: 1,234 is a number.
+  bool TakeSeparator() {
+    return Take(rest_, "/") || Take(rest_, "-") || Take(rest_, settings_.dateSeparator) || (named_ && Take(rest_, ","));
   }
 
   int ReadNumber() {
@@ -135,6 +139,7 @@ class DateReader {
     const std::string_view word = rest_.substr(0, end - rest_.begin());
     if (word.empty()) return false;
     rest_.remove_prefix(word.size());
+    named_ = true;
     if (const int place = PlaceOfName(word, settings_.monthNames); place >= 0 && month_ == 0) {
       month_ = place + 1;
       return true;
@@ -152,7 +157,7 @@ class DateReader {
   std::optional<Date> DayWithName() const {
     const auto [first, second, third] = numbers_;
     if (numberCount_ == 1) {
-      return first >= kWrittenOutYear ? DayIf(first, month_, 1) : DayIf(thisYear_, month_, first);
+      return first >= kWrittenOutYear ? DayIf(first, month_, 1) : DayIf(ThisYear(), month_, first);
     }
     if (numberCount_ != 2) return std::nullopt;
     return first >= kWrittenOutYear ? DayIf(first, month_, second) : DayIf(Full(second), month_, first);
@@ -181,35 +186,35 @@ class DateReader {
     return std::nullopt;
   }
 
-  /// Month and day of this year, or month and year.
+  /// Month and day of this year.
   std::optional<Date> DayOfTwo() const {
     const auto [first, second, third] = numbers_;
-    if (first >= kWrittenOutYear) return DayIf(first, second, 1);
-    if (second >= kWrittenOutYear) return DayIf(second, first, 1);
     const bool dayFirst = settings_.dateOrder == Order::DayMonthYear;
-    const std::optional<Date> day = dayFirst ? DayIf(thisYear_, second, first) : DayIf(thisYear_, first, second);
+    const std::optional<Date> day = dayFirst ? DayIf(ThisYear(), second, first) : DayIf(ThisYear(), first, second);
     if (day) return day;
-    return dayFirst ? DayIf(thisYear_, first, second) : DayIf(thisYear_, second, first);
+    return dayFirst ? DayIf(ThisYear(), first, second) : DayIf(ThisYear(), second, first);
   }
 
+  int ThisYear() const { return clock_.Now().Year(); }
   int Full(int year) const { return FullYear(year, settings_.lastTwoDigitYear); }
 
   enum class Half { None, Morning, Afternoon };
 
   std::string_view rest_;
   const RegionalSettings& settings_;
-  int thisYear_;
+  const Clock& clock_;
   std::array<int, 3> numbers_ = {};
   std::size_t numberCount_ = 0;
   int month_ = 0;
+  bool named_ = false;
   Half half_ = Half::None;
   std::optional<double> time_;
 };
 
 }  // namespace
 
-std::optional<Date> ParseDate(std::string_view text, const RegionalSettings& settings, int thisYear) {
-  return DateReader(text, settings, thisYear).Read();
+std::optional<Date> ParseDate(std::string_view text, const RegionalSettings& settings, const Clock& clock) {
+  return DateReader(text, settings, clock).Read();
 }
 
 }  // namespace norvane

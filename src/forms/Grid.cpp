@@ -87,7 +87,7 @@ void Grid::RowsHaveChanged(int first, int change) {
   Model& m = *model_;
   const int rowsBefore = Rows() - change;
   const int cursor = std::exchange(m.row, std::min(rowsBefore == 1 ? 1 : m.row, m.LastRow()));
-  const int top = std::exchange(m.topRow, std::clamp(m.topRow, 1, std::max(1, m.LastRow())));
+  const int top = std::exchange(m.topRow, std::min(m.topRow, m.LastTop()));
   if (!view) return;
   if (change > 0) view->RowsInserted(first, change);
   if (change < 0) view->RowsRemoved(first, -change);
@@ -168,7 +168,7 @@ int Grid::TopRow() const {
 }
 
 void Grid::SetTopRow(int row) {
-  row = std::clamp(row, 1, std::max(1, model_->LastRow()));
+  row = std::clamp(row, 1, model_->LastTop());
   if (row == model_->topRow) return;
   model_->topRow = row;
   if (view) view->TopRowChanged();
@@ -183,6 +183,7 @@ void Grid::ScrollIntoView() {
 
 void Grid::SetVisibleRows(int rows) {
   model_->visibleRows = std::max(1, rows);
+  SetTopRow(model_->topRow);
 }
 
 int Grid::VisibleRows() const {

@@ -104,6 +104,7 @@ class Grid : public Control {
   int Col() const;
   void SetCol(int col);
   int TopRow() const;
+  /// Cut back so that no room is left below the last row.
   void SetTopRow(int row);
   /// How many data rows the display shows; whoever draws sets it. Moves of a page and scrolling into view go by it.
   void SetVisibleRows(int rows);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 
 #include "forms/Form.h"
@@ -43,7 +44,7 @@ struct Grid::Model {
   int row = 0;
   int col = 0;
   int topRow = 1;
-  int visibleRows = 10;
+  int visibleRows = 5;
   Twips rowHeight = 300;
   std::optional<GridEdit> edit;
 
@@ -51,6 +52,8 @@ struct Grid::Model {
   int Rows() const { return table.Rows(); }
   int Cols() const { return static_cast<int>(columns.size()); }
   int LastRow() const { return Rows() - 1; }
+  /// With this row on top the last one stands at the bottom.
+  int LastTop() const { return std::max(1, Rows() - visibleRows); }
   /// The marker column is out of the cursor's reach.
   int FirstCol() const { return kind == GridKind::Editable ? 1 : 0; }
 };

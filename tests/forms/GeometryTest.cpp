@@ -53,23 +53,34 @@ TEST_F(GeometryTest, ResizesOfAVisibleFormAreTold) {
   EXPECT_THAT(Taken(), ElementsAre("A Resize", "A Resize"));
 }
 
+struct MenuForm : Form {
+  static constexpr const char* kName = "MenuForm";
+  explicit MenuForm(Program& program_) : Form(program_, kName, {.width = 4000, .height = 3000}) {
+    using namespace layout;
+    SetLayout(Column({Strip({button, Space()}), Tabs(tabs, {{"One", Group(frame, Field("&Name:", second))},
+                                                            {"Two", Stretch(Row({first, Line()}))}})}));
+  }
+  MenuEntry menu{*this, "mnuFile", "&File"};
+  TextBox first{*this, "first"};
+  TextBox second{*this, "second"};
+  Button button{*this, "button", {}};
+  Frame frame{*this, "frame"};
+  TabControl tabs{*this, "tabs"};
+};
+
 TEST_F(GeometryTest, AMenuBarTakesFromTheInnerHeight) {
-  Add("A");
-  TestForm& a = Touch("A");
-  const MenuEntry menu(a, "mnuFile", "&File");
-  EXPECT_EQ(a.ScaleHeight(), 3000 - 405 - 285);
+  program.screens.Add<MenuForm>();
+  EXPECT_EQ(program.screens.Touch<MenuForm>().ScaleHeight(), 3000 - 405 - 285);
 }
 
 TEST_F(GeometryTest, TheOrderOfTheLayoutIsTheTabOrder) {
-  Add("A");
-  TestForm& a = Touch("A");
-  Frame frame(a, "frame");
-  TabControl tabs(a, "tabs");
-  using namespace layout;
-  const Node node = Column({Strip({a.button, Space()}), Tabs(tabs, {{"One", Group(frame, Field("&Name:", a.second))},
-                                                                    {"Two", Stretch(Row({a.first, Line()}))}})});
-  EXPECT_THAT(ControlsOf(node), ElementsAre(&a.button, &tabs, &frame, &a.second, &a.first));
-  EXPECT_THAT(a.TabOrder(), ElementsAre(&a.first, &a.second, &a.button));
+  program.screens.Add<MenuForm>();
+  auto& a = program.screens.Touch<MenuForm>();
+  EXPECT_THAT(layout::ControlsOf(a.Layout()), ElementsAre(&a.button, &a.tabs, &a.frame, &a.second, &a.first));
+  EXPECT_THAT(a.TabOrder(), ElementsAre(&a.button, &a.tabs, &a.second, &a.first));
+  a.tabs.SetVisible(false);
+  a.second.SetEnabled(false);
+  EXPECT_THAT(a.TabOrder(), ElementsAre(&a.button, &a.first));
 }
 
 }  // namespace

@@ -102,6 +102,7 @@ TEST_F(GridEventsTest, PagesHomeAndEnd) {
   };
   using Cell = std::pair<int, int>;
   grid().SetRows(31);
+  grid().SetVisibleRows(10);
   EXPECT_EQ(press(grid(), Key::PageDown), Cell(11, 2));
   EXPECT_EQ(press(grid(), Key::PageUp), Cell(1, 2));
   EXPECT_EQ(press(grid(), Key::End), Cell(1, 3));

@@ -17,6 +17,7 @@ class GridForm : public Form {
 
   Grid grid{*this, "grid", GridKind::Editable};
   Grid list{*this, "list", GridKind::List};
+  Grid fresh{*this, "fresh", GridKind::Editable};
   TextBox other{*this, "other"};
   Button ok{*this, "ok", {.caption = "OK", .isDefault = true}};
   Log& log;

@@ -23,7 +23,7 @@ need_packages() {
   local purpose=$1
   shift
   if ! command -v dpkg-query >/dev/null; then
-    echo "This isn't Debian, so nothing is installed for you. ${purpose^} needs what Debian calls: $*" >&2
+    echo "This isn't Debian, so nothing is installed for you. For $purpose you need what Debian calls: $*" >&2
     return 0
   fi
   local missing
@@ -36,7 +36,7 @@ need_packages() {
     as_root=(sudo)
     echo "Installing with sudo, so it may ask for your password."
   fi
-  echo "Installing what $purpose needs: $missing"
+  echo "Installing packages for $purpose: $missing"
   local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Acquire::Retries=2
     -o Acquire::http::Timeout=30 -o Dpkg::Use-Pty=0)
   # Lists that can't be refreshed may still be good enough, so only the installation itself decides.
@@ -47,7 +47,7 @@ need_packages() {
 }
 
 give_up() {
-  echo "Not installed: $3. ${1^} needs these packages; install them and try again:" >&2
+  echo "Not installed: $3. For $1 these packages are needed; install them and try again:" >&2
   echo "  apt-get install $2" >&2
   exit 1
 }

@@ -26,7 +26,7 @@ void RowEditing::SetOldRowStatus() {
       SetMarker(row, "*");
     } else if (rules_.zeroMeansStarted && key == "0") {
       SetMarker(row, "?");
-    } else if (row == RowEntered()) {
+    } else if (row == RowEntered() || row == failedRow_) {
       SetMarker(row, globals_.RowChanged ? "?" : ">");
     } else {
       SetMarker(row, "");
@@ -79,7 +79,7 @@ void RowEditing::AfterRowEdit() {
       if (rules_.marksRowEntered) SetMarker(entered, "?");
       if (grid_.Rows() >= 2 && HoldsNothing(entered - 1)) SendCursorBack();
     }
-    saveRow_();
+    StoreRows();
   });
 }
 
@@ -92,6 +92,25 @@ bool RowEditing::HoldsNothing(std::int32_t row) const {
 void RowEditing::SendCursorBack() {
   grid_.SetRow(RowEntered() - 1);
   if (rules_.scrollsBack && grid_.TopRow() >= 2) grid_.SetTopRow(grid_.Row() - 1);
+}
+
+// Storing a row clears RowChanged; one that raised an error on the way there leaves it set.
+void RowEditing::StoreRows() {
+  const bool stillFailing = RetryFailedRow();
+  saveRow_();
+  if (globals_.RowChanged) failedRow_ = RowLeft();
+  globals_.RowChanged = globals_.RowChanged || stillFailing;
+}
+
+bool RowEditing::RetryFailedRow() {
+  const std::int32_t failed = Existing(std::exchange(failedRow_, 0));
+  const std::int32_t left = OldRow;
+  if (failed == 0 || failed == left) return false;
+  OldRow = failed;
+  saveRow_();
+  OldRow = left;
+  if (globals_.RowChanged) failedRow_ = failed;
+  return globals_.RowChanged;
 }
 
 void RowEditing::TakeCurrentRow() {

@@ -44,7 +44,8 @@ class RowEditing {
 
   void SetOldRowStatus();
   void SetNewRowStatus();
-  /// Sends the cursor back to an empty row that it skipped, then stores the row that was left.
+  /// Sends the cursor back to an empty row that it skipped, then stores the row that was left. A row that could not be
+  /// read keeps its "?" and is tried again at the next change of rows.
   void AfterRowEdit();
 
   // The grid's events.
@@ -58,6 +59,8 @@ class RowEditing {
   void MarkChanged();
   /// Stores a pending edit, as leaving the row would.
   void CommitPending();
+  /// The grid was filled anew: no row of before is tried again.
+  void StartOver() { failedRow_ = 0; }
   /// Goes to the empty row at the end, adding one if the last holds something, and gives the grid the focus.
   void GoToNewRow();
 
@@ -70,12 +73,15 @@ class RowEditing {
   std::int32_t Existing(std::int32_t row) const { return row < grid_.Rows() ? row : 0; }
   bool HoldsNothing(std::int32_t row) const;
   void SendCursorBack();
+  void StoreRows();
+  bool RetryFailedRow();
 
   Grid& grid_;
   Globals& globals_;
   Reporter& reporter_;
   RowEditingRules rules_;
   std::function<void()> saveRow_;
+  std::int32_t failedRow_ = 0;  ///< left, but its texts could not be read
 };
 
 }  // namespace norvane

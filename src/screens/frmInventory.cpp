@@ -116,6 +116,7 @@ void frmInventory::cmbCategory_Click() {
       InventoryList.SetFocus();
       rows_.SetMarker(1, "*");
     }
+    rows_.StartOver();
     rows_.OldRow = InventoryList.Rows() - 1;
     rows_.SetOldRowStatus();
   });

@@ -303,10 +303,7 @@ void Recordset::Update() {
   if (state_->edits.empty()) return;
   if (state_->IsTableBacked() && !state_->EditedCells().empty()) state_->WriteToTable();
   if (state_->adding) state_->AppendRow();
-  const std::size_t row = state_->Row();
-  for (std::size_t i = 0; i < state_->edits.size(); ++i) {
-    if (state_->edits[i]) state_->rows->Set(row, static_cast<int>(i), *state_->edits[i]);
-  }
+  state_->rows->Change(state_->Row(), state_->edits);
   state_->edits.clear();
   state_->adding = false;
 }

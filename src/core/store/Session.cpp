@@ -102,6 +102,7 @@ Connection::Session::Outcome Connection::Session::Run(std::string_view statement
   }
   outcome.rows = std::make_shared<norvane::Rows>(translation.columns);
   while (Step(prepared, name_)) outcome.rows->Read(prepared);
+  outcome.rows->Trim();
   return outcome;
 }
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include "forms/Control.h"
+
+namespace norvane::ui {
+
+/// Ties a widget to its control: makes the widget follow the model, and is the context of every connection that
+/// forwards the user to it. Deleting the binding cuts the widget off, which is what happens when the form is destroyed.
+class Binding : public QObject {
+ public:
+  using Follow = std::function<void(Aspect)>;
+
+  /// `follow` draws what changed; it is told of everything but the aspects that all widgets share. The binding belongs
+  /// to the widget.
+  Binding(Control& control, QWidget& widget, Follow follow);
+
+  Control& Model() const { return control_; }
+  QWidget& Widget() const { return widget_; }
+
+  /// Draws everything anew, for a widget that has got its content only after the binding.
+  void Refresh();
+
+  /// The label that belongs to the widget: hidden with it, and its accessible name.
+  void SetCompanion(QWidget* companion);
+
+  /// Told when the model has given the control the focus.
+  std::function<void(Binding&)> focused;
+
+  /// The binding of the widget or of the nearest one around it, nothing outside of forms.
+  static Binding* Of(QWidget* widget);
+
+ private:
+  void Changed(Aspect aspect);
+  void FollowShared();
+
+  Control& control_;
+  QWidget& widget_;
+  Follow follow_;
+  QPointer<QWidget> companion_;
+};
+
+}  // namespace norvane::ui

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cmath>
+#include <string>
+
+#include <QDate>
+#include <QString>
+
+#include "core/Date.h"
+#include "forms/Control.h"
+
+/// Between the models' values and the toolkit's.
+namespace norvane::ui {
+
+inline constexpr double kTwipsPerPixel = 15;
+
+inline int ToPixels(Twips twips) {
+  return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+}
+inline Twips ToTwips(int pixels) {
+  return pixels * kTwipsPerPixel;
+}
+
+inline QString ToQt(const std::string& text) {
+  return QString::fromStdString(text);
+}
+inline std::string FromQt(const QString& text) {
+  return text.toStdString();
+}
+
+inline QDate ToQt(Date date) {
+  return QDate(1899, 12, 30).addDays(date.Day());
+}
+inline Date FromQt(QDate date) {
+  return Date(static_cast<double>(QDate(1899, 12, 30).daysTo(date)));
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,239 @@
+#include "ui/FormWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QStatusBar>
+#include <QWindow>
+
+#include "ui/Convert.h"
+#include "ui/LayoutBuilder.h"
+#include "ui/Theme.h"
+
+namespace norvane::ui {
+namespace {
+
+constexpr Twips kFrameWidth = 120;
+constexpr Twips kFrameHeight = 405;
+constexpr Twips kMenuHeight = 285;
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, const WidgetFactory& factory, FocusBridge& focus) : form_(&form) {
+  setObjectName(ToQt(form.Name()));
+  setWindowTitle(ToQt(form.Caption()));
+  ChooseFlags();
+  BuildMenu();
+  BuildPage(factory, focus);
+  form.observer = [this](Aspect aspect) { FormChanged(aspect); };
+}
+
+void FormWindow::ChooseFlags() {
+  const FormStyle& style = form_->Style();
+  if (style.bare) {
+    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+  } else if (style.goesWithOwner || form_->IsModal() || !style.resizable) {
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
+  }
+  if (form_->IsModal()) setWindowModality(Qt::ApplicationModal);
+}
+
+void FormWindow::BuildMenu() {
+  for (MenuEntry* entry : form_->MenuBar()) menuBar()->addMenu(MakeMenu(*entry));
+}
+
+QMenu* FormWindow::MakeMenu(MenuEntry& entry) {
+  auto* menu = new QMenu(ToQt(entry.Caption()), this);
+  for (MenuEntry* child : entry.Entries()) AddEntry(*menu, *child);
+  new Binding(entry, *menu, nullptr);
+  entry.observer = [&entry, action = menu->menuAction()](Aspect) {
+    action->setEnabled(entry.Enabled());
+    action->setVisible(entry.Visible());
+  };
+  entry.observer(Aspect::Enabled);
+  return menu;
+}
+
+void FormWindow::AddEntry(QMenu& menu, MenuEntry& entry) {
+  if (!entry.Entries().empty()) {
+    menu.addMenu(MakeMenu(entry));
+    return;
+  }
+  auto* action = menu.addAction(ToQt(entry.Caption()));
+  entry.observer = [&entry, action](Aspect) {
+    action->setEnabled(entry.Enabled());
+    action->setVisible(entry.Visible());
+  };
+  entry.observer(Aspect::Enabled);
+  connect(action, &QAction::triggered, this, [this, &entry] {
+    if (form_) entry.Choose();
+  });
+}
+
+void FormWindow::BuildPage(const WidgetFactory& factory, FocusBridge& focus) {
+  auto* page = new QWidget(this);
+  LayoutBuilder builder(factory, [&](Control& control, Binding& binding) {
+    widgets_.emplace_back(&control, &binding.Widget());
+    binding.focused = [&focus](Binding& focused) { focus.Give(focused); };
+  });
+  builder.Fill(*page, form_->Layout());
+  setCentralWidget(page);
+  if (builder.MetStatusBar()) setStatusBar(builder.MetStatusBar());
+  SetTabOrder();
+}
+
+void FormWindow::SetTabOrder() {
+  QWidget* previous = nullptr;
+  for (const Control* control : form_->TabOrder()) {
+    QWidget* widget = WidgetOf(*control);
+    if (previous && widget) QWidget::setTabOrder(previous, widget);
+    if (widget) previous = widget;
+  }
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+  for (const auto& [known, widget] : widgets_) {
+    if (known == &control) return widget;
+  }
+  return nullptr;
+}
+
+void FormWindow::Present(QWidget* owner) {
+  if (!placed_) TakeFirstPlace(owner);
+  placed_ = true;
+  if (isMinimized()) showNormal();
+  show();
+  raise();
+  if (!form_->Style().bare) activateWindow();
+}
+
+void FormWindow::Withdraw() {
+  hide();
+}
+
+void FormWindow::Abandon() {
+  form_ = nullptr;
+  for (auto* child : findChildren<QObject*>()) {
+    if (auto* binding = dynamic_cast<Binding*>(child)) delete binding;
+  }
+  hide();
+  deleteLater();
+}
+
+void FormWindow::TakeFirstPlace(QWidget* owner) {
+  if (owner) {
+    winId();
+    owner->winId();
+    windowHandle()->setTransientParent(owner->windowHandle());
+  }
+  const bool natural = form_->Width() <= 0 && form_->Height() <= 0;
+  if (!form_->Style().resizable) layout()->setSizeConstraint(QLayout::SetFixedSize);
+  if (natural) {
+    adjustSize();
+    TellSize();
+  }
+  if (form_->Left() == 0 && form_->Top() == 0) {
+    const QRect around =
+        owner && owner->isVisible() ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
+    const QPoint corner = around.center() - QPoint(width() / 2, height() / 2);
+    move(std::max(0, corner.x()), std::max(0, corner.y()));
+  }
+  FollowPlace();
+}
+
+Twips FormWindow::FrameHeight() const {
+  return kFrameHeight + (form_->MenuBar().empty() ? 0 : kMenuHeight);
+}
+
+QSize FormWindow::SizeOfForm() const {
+  const int menu = form_->MenuBar().empty() ? 0 : menuBar()->sizeHint().height();
+  return {ToPixels(form_->Width() - kFrameWidth), ToPixels(form_->Height() - FrameHeight()) + menu};
+}
+
+void FormWindow::FollowPlace() {
+  if (isMaximized() || isMinimized()) return;
+  const QScopedValueRollback following(following_, true);
+  if (form_->Width() > 0 && size() != SizeOfForm()) resize(SizeOfForm());
+  const QPoint corner(ToPixels(form_->Left()), ToPixels(form_->Top()));
+  if (!corner.isNull() && pos() != corner) move(corner);
+}
+
+void FormWindow::FormChanged(Aspect aspect) {
+  if (aspect == Aspect::Caption) setWindowTitle(ToQt(form_->Caption()));
+  if (aspect == Aspect::Place && placed_) FollowPlace();
+}
+
+template <class Tell>
+void FormWindow::Telling(Tell tell) {
+  if (form_ && form_->IsVisible() && !following_) tell();
+}
+
+void FormWindow::TellSize() {
+  // A size that rounds to the pixels on the screen is what the form has already.
+  if (size() == SizeOfForm()) return;
+  const int menu = form_->MenuBar().empty() ? 0 : menuBar()->sizeHint().height();
+  form_->UserResize(ToTwips(width()) + kFrameWidth, ToTwips(height() - menu) + FrameHeight());
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  if (!form_) return event->accept();
+  event->ignore();
+  form_->UserClose();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && PressButton(&ButtonStyle::isDefault)) return;
+  if (event->key() == Qt::Key_Escape && PressButton(&ButtonStyle::isCancel)) return;
+  QMainWindow::keyPressEvent(event);
+}
+
+bool FormWindow::PressButton(bool ButtonStyle::*role) {
+  if (!form_) return false;
+  for (Control* control : form_->Controls()) {
+    auto* button = dynamic_cast<Button*>(control);
+    if (!button || !(button->Style().*role) || !button->Enabled() || !button->Visible()) continue;
+    button->Press();
+    return true;
+  }
+  return false;
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  Telling([&] {
+    if (!placed_ || isMinimized() || isMaximized() || !isVisible()) return;
+    if (pos() == QPoint(ToPixels(form_->Left()), ToPixels(form_->Top()))) return;
+    form_->UserMove(ToTwips(pos().x()), ToTwips(pos().y()));
+  });
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  Telling([&] {
+    if (placed_ && !isMinimized()) TellSize();
+  });
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) {
+    Telling([&] {
+      form_->UserWindowState(isMinimized()   ? WindowState::Minimized
+                             : isMaximized() ? WindowState::Maximized
+                                             : WindowState::Normal);
+    });
+  }
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && !focusWidget()) {
+    Telling([&] { form_->UserActivate(); });
+  }
+}
+
+}  // namespace norvane::ui

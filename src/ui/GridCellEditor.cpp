@@ -1,0 +1,135 @@
+#include "ui/GridCellEditor.h"
+
+#include <map>
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "forms/Form.h"
+#include "ui/Convert.h"
+
+namespace norvane::ui {
+
+bool ToGridKey(const QKeyEvent& event, GridKeyPress& press) {
+  static const std::map<int, Key> keys = {{Qt::Key_Tab, Key::Tab},       {Qt::Key_Backtab, Key::Tab},
+                                          {Qt::Key_Return, Key::Enter},  {Qt::Key_Enter, Key::Enter},
+                                          {Qt::Key_Escape, Key::Escape}, {Qt::Key_PageUp, Key::PageUp},
+                                          {Qt::Key_Home, Key::Home},     {Qt::Key_PageDown, Key::PageDown},
+                                          {Qt::Key_End, Key::End},       {Qt::Key_Left, Key::Left},
+                                          {Qt::Key_Up, Key::Up},         {Qt::Key_Right, Key::Right},
+                                          {Qt::Key_Down, Key::Down},     {Qt::Key_F2, Key::F2},
+                                          {Qt::Key_F4, Key::F4},         {Qt::Key_Space, Key::Space}};
+  const auto found = keys.find(event.key());
+  if (found == keys.end()) return false;
+  const auto held = event.modifiers();
+  press = {found->second,
+           {.shift = held.testFlag(Qt::ShiftModifier),
+            .control = held.testFlag(Qt::ControlModifier),
+            .alt = held.testFlag(Qt::AltModifier)}};
+  return true;
+}
+
+GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport)
+    : QObject(viewport),
+      grid_(&grid),
+      viewport_(viewport),
+      line_(new QLineEdit(viewport)),
+      list_(new QComboBox(viewport)) {
+  for (QWidget* field : {static_cast<QWidget*>(line_), static_cast<QWidget*>(list_)}) {
+    field->hide();
+    field->installEventFilter(this);
+  }
+  list_->setFocusPolicy(Qt::StrongFocus);
+  connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {
+    if (grid_) grid_->SetEditText(FromQt(text));
+  });
+  connect(list_, &QComboBox::activated, this, [this](int index) {
+    if (grid_) grid_->PickItem(index);
+  });
+}
+
+void GridCellEditor::Abandon() {
+  grid_ = nullptr;
+}
+
+QWidget* GridCellEditor::Field() const {
+  const auto helper = grid_->Helper(grid_->Col());
+  const bool hasList = helper == CellHelper::DropDown || helper == CellHelper::KeyedDropDown;
+  return hasList ? static_cast<QWidget*>(list_) : line_;
+}
+
+void GridCellEditor::Follow(const QRect& cell) {
+  if (!grid_ || !grid_->Editing()) return Hide();
+  const bool begins = !Field()->isVisible();
+  Place(cell);
+  Field() == list_ ? ShowList() : ShowLine();
+  if (!begins) return;
+  Field()->show();
+  Field()->raise();
+  Field()->setFocus(Qt::OtherFocusReason);
+}
+
+void GridCellEditor::Place(const QRect& cell) {
+  if (grid_ && grid_->Editing()) Field()->setGeometry(cell.adjusted(0, 0, 0, -1));
+}
+
+void GridCellEditor::ShowLine() {
+  const bool isMoney = grid_->Alignment(grid_->Col()) == ColumnAlignment::Right;
+  line_->setAlignment((isMoney ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  if (line_->text() == ToQt(grid_->EditText()) && line_->isVisible()) return;
+  line_->setText(ToQt(grid_->EditText()));
+  if (!line_->isVisible()) line_->selectAll();
+}
+
+void GridCellEditor::ShowList() {
+  const QSignalBlocker quiet(list_);
+  if (!list_->isVisible()) {
+    list_->clear();
+    for (const auto& item : grid_->DropDownItems(grid_->Col())) list_->addItem(ToQt(item));
+  }
+  const int item = list_->findText(ToQt(grid_->EditText()), Qt::MatchExactly | Qt::MatchCaseSensitive);
+  list_->setCurrentIndex(item);
+  list_->setPlaceholderText(item < 0 ? ToQt(grid_->EditText()) : QString());
+}
+
+void GridCellEditor::OpenList() {
+  if (grid_ && grid_->Editing() && Field() == list_) list_->showPopup();
+}
+
+void GridCellEditor::Hide() {
+  // The keyboard goes back to the grid before its field goes, or the toolkit would pass it on to another control.
+  if (line_->hasFocus() || list_->hasFocus()) viewport_->parentWidget()->setFocus(Qt::OtherFocusReason);
+  if (list_->isVisible()) list_->hidePopup();
+  line_->hide();
+  list_->hide();
+}
+
+bool GridCellEditor::eventFilter(QObject* watched, QEvent* event) {
+  if (!grid_ || event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
+  return KeyPressed(static_cast<QKeyEvent&>(*event));
+}
+
+bool GridCellEditor::KeyPressed(const QKeyEvent& event) {
+  GridKeyPress press{};
+  const bool isList = Field() == list_;
+  if (ToGridKey(event, press) && press.key != Key::Space) {
+    const bool opens = press.key == Key::F4 || (press.key == Key::Down && press.modifiers.alt);
+    if (isList && opens) {
+      OpenList();
+      return true;
+    }
+    if (grid_->UserKey(press.key, press.modifiers)) return true;
+    if (press.key != Key::Tab) return isList;
+    grid_->Parent().UserTab(press.modifiers.shift);
+    return true;
+  }
+  const bool isText = !event.text().isEmpty() && event.text().at(0).isPrint() &&
+                      !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+  if (!isList || !isText) return false;
+  grid_->UserText(FromQt(event.text()));
+  return true;
+}
+
+}  // namespace norvane::ui

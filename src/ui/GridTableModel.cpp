@@ -1,0 +1,87 @@
+#include "ui/GridTableModel.h"
+
+#include "ui/Convert.h"
+
+namespace norvane::ui {
+
+void GridTableModel::Abandon() {
+  beginResetModel();
+  grid_ = nullptr;
+  rows_ = columns_ = 0;
+  endResetModel();
+}
+
+void GridTableModel::CatchUp() {
+  if (!grid_) return;
+  if (columns_ != grid_->Cols()) {
+    beginResetModel();
+    columns_ = grid_->Cols();
+    rows_ = grid_->Rows() - 1;
+    endResetModel();
+  }
+  const int rows = grid_->Rows() - 1;
+  if (rows > rows_) {
+    beginInsertRows({}, rows_, rows - 1);
+    rows_ = rows;
+    endInsertRows();
+  } else if (rows < rows_) {
+    beginRemoveRows({}, rows, rows_ - 1);
+    rows_ = rows;
+    endRemoveRows();
+  }
+}
+
+void GridTableModel::RefreshAll() {
+  if (columns_ > 0) emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
+  if (columns_ > 0 && rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
+}
+
+void GridTableModel::RefreshRow(int row) {
+  if (row == 0) return RefreshAll();
+  if (columns_ > 0 && row <= rows_) emit dataChanged(index(row - 1, 0), index(row - 1, columns_ - 1));
+}
+
+int GridTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : rows_;
+}
+
+int GridTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : columns_;
+}
+
+QVariant GridTableModel::data(const QModelIndex& index, int role) const {
+  const int row = index.row() + 1;
+  // Until it has caught up, the view may ask for rows and columns that are gone.
+  if (!grid_ || row >= grid_->Rows() || index.column() >= grid_->Cols()) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+      if (grid_->ColDataType(index.column()) == ColumnType::Boolean) return {};
+      return ToQt(grid_->DisplayText(row, index.column()));
+    case Qt::CheckStateRole:
+      if (grid_->ColDataType(index.column()) != ColumnType::Boolean) return {};
+      return grid_->Cell(row, index.column()) == "-1" ? Qt::Checked : Qt::Unchecked;
+    case Qt::TextAlignmentRole:
+      return QVariant(AlignmentOf(index.column()));
+    default:
+      return {};
+  }
+}
+
+QVariant GridTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (!grid_ || orientation != Qt::Horizontal || section >= grid_->Cols()) return {};
+  if (role == Qt::DisplayRole) return ToQt(grid_->Cell(0, section));
+  if (role == Qt::TextAlignmentRole) return QVariant(AlignmentOf(section));
+  return {};
+}
+
+Qt::Alignment GridTableModel::AlignmentOf(int col) const {
+  const bool isMarker = grid_->Kind() == GridKind::Editable && col == 0;
+  const bool isBoolean = grid_->ColDataType(col) == ColumnType::Boolean;
+  const auto alignment = isMarker || isBoolean ? ColumnAlignment::Centre : grid_->Alignment(col);
+  if (alignment == ColumnAlignment::Centre) return Qt::AlignCenter;
+  const bool isMoney = alignment == ColumnAlignment::General && grid_->ColDataType(col) == ColumnType::Currency;
+  if (alignment == ColumnAlignment::Right || isMoney) return Qt::AlignRight | Qt::AlignVCenter;
+  return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+}  // namespace norvane::ui

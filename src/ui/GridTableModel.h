@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "forms/Grid.h"
+
+namespace norvane::ui {
+
+/// A grid's data rows for a table view. It holds nothing but the number of rows that the view knows of: a grid that is
+/// filled row by row is caught up with in one step.
+class GridTableModel : public QAbstractTableModel {
+ public:
+  explicit GridTableModel(Grid& grid) : grid_(&grid) {}
+
+  /// The grid is no more; the table is empty from here on.
+  void Abandon();
+  /// Makes the view know as many rows and columns as there are.
+  void CatchUp();
+  /// Anything may have changed.
+  void RefreshAll();
+  void RefreshRow(int row);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  Qt::Alignment AlignmentOf(int col) const;
+
+  Grid* grid_;
+  int rows_ = 0;
+  int columns_ = 0;
+};
+
+}  // namespace norvane::ui

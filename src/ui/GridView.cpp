@@ -1,0 +1,348 @@
+#include "ui/GridView.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include "forms/Form.h"
+#include "ui/Convert.h"
+#include "ui/GridCellEditor.h"
+#include "ui/GridCellPainter.h"
+#include "ui/GridTableModel.h"
+
+namespace norvane::ui {
+namespace {
+
+constexpr int kRowPadding = 9;
+constexpr int kRowsAskedFor = 10;
+constexpr int kFewestRows = 4;
+constexpr int kNarrowest = 20;
+constexpr int kRowsMeasured = 200;
+constexpr int kWidestText = 260;  // no column asks for more, in pixels
+/// Columns were measured for a smaller font; they grow by up to this where there is room.
+constexpr double kColumnGrowth = 1.3;
+
+}  // namespace
+
+GridView::GridView(Grid& grid, QWidget* parent)
+    : QTableView(parent), grid_(&grid), table_(new GridTableModel(grid)), painter_(new GridCellPainter(grid, this)) {
+  table_->setParent(this);
+  setModel(table_);
+  setItemDelegate(painter_);
+  SetLook();
+  editor_ = new GridCellEditor(grid, viewport());
+  grid.view = this;
+  binding_ = new Binding(grid, *this, nullptr);
+  connect(binding_, &QObject::destroyed, this, &GridView::Abandon);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int section, int, int width) { SectionResized(section, width); });
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+    if (grid_ && !following_) grid_->SetTopRow(value + 1);
+  });
+  CatchUp();
+}
+
+void GridView::SetLook() {
+  setSelectionMode(NoSelection);
+  setEditTriggers(NoEditTriggers);
+  setShowGrid(false);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  setVerticalScrollMode(ScrollPerItem);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setCornerButtonEnabled(false);
+  setAttribute(Qt::WA_InputMethodEnabled);
+  const int rowHeight = fontMetrics().height() + kRowPadding;
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setMinimumSectionSize(rowHeight);
+  verticalHeader()->setDefaultSectionSize(rowHeight);
+  horizontalHeader()->setStretchLastSection(true);
+  horizontalHeader()->setMinimumSectionSize(kNarrowest);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setFixedHeight(rowHeight + 2);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  grid_->SetRowHeight(ToTwips(rowHeight));
+}
+
+void GridView::Abandon() {
+  grid_ = nullptr;
+  painter_->Abandon();
+  editor_->Abandon();
+  table_->Abandon();
+}
+
+QSize GridView::minimumSizeHint() const {
+  const int rowHeight = verticalHeader()->defaultSectionSize();
+  return {240, horizontalHeader()->height() + kFewestRows * rowHeight};
+}
+
+QSize GridView::sizeHint() const {
+  const int rows = horizontalHeader()->height() + kRowsAskedFor * verticalHeader()->defaultSectionSize();
+  int columns = verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+  for (int col = 0; grid_ && col < grid_->Cols(); ++col) {
+    columns += static_cast<int>(ToPixels(grid_->ColWidth(col)) * kColumnGrowth);
+  }
+  return {std::clamp(columns, minimumSizeHint().width(), 960), rows + 2 * frameWidth()};
+}
+
+// Catching up.
+
+void GridView::Later() {
+  if (waiting_) return;
+  waiting_ = true;
+  QMetaObject::invokeMethod(this, &GridView::CatchUp, Qt::QueuedConnection);
+  viewport()->update();
+}
+
+void GridView::CatchUp() {
+  waiting_ = false;
+  if (!grid_) return;
+  {
+    const QScopedValueRollback following(following_, true);
+    table_->CatchUp();
+  }
+  if (std::exchange(allWaiting_, false)) {
+    MeasureColumns();
+    ArrangeColumns();
+    table_->RefreshAll();
+  }
+  FollowTopRow();
+  editor_->Place(CurrentCell());
+}
+
+void GridView::ColumnsChanged() {
+  RowsReset();
+}
+
+void GridView::RowsReset() {
+  allWaiting_ = true;
+  Later();
+}
+
+void GridView::RowsInserted(int, int) {
+  RowsReset();
+}
+
+void GridView::RowsRemoved(int, int) {
+  RowsReset();
+}
+
+void GridView::CellChanged(int row, int) {
+  if (!waiting_) table_->RefreshRow(row);
+}
+
+void GridView::CursorMoved() {
+  Later();
+  if (grid_->Row() < 1) return;
+  const QScopedValueRollback following(following_, true);
+  const QModelIndex cell = table_->index(grid_->Row() - 1, grid_->Col());
+  if (!cell.isValid()) return;
+  selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+  const int left = columnViewportPosition(grid_->Col());
+  if (left < 0 || left + columnWidth(grid_->Col()) > viewport()->width()) {
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + left);
+  }
+}
+
+void GridView::TopRowChanged() {
+  Later();
+}
+
+void GridView::EditChanged() {
+  if (waiting_) CatchUp();
+  editor_->Follow(CurrentCell());
+  viewport()->update();
+}
+
+void GridView::FollowTopRow() {
+  const QScopedValueRollback following(following_, true);
+  executeDelayedItemsLayout();
+  verticalScrollBar()->setValue(grid_->TopRow() - 1);
+}
+
+QRect GridView::CurrentCell() const {
+  return visualRect(table_->index(grid_->Row() - 1, grid_->Col()));
+}
+
+/// What the texts take, told by the first rows: all of them would take too long, and they are of a kind.
+void GridView::MeasureColumns() {
+  const int rows = std::min(grid_->Rows(), kRowsMeasured);
+  needs_.assign(static_cast<std::size_t>(grid_->Cols()), 0);
+  for (int col = 0; col < grid_->Cols(); ++col) {
+    if (grid_->ColWidth(col) == 0) continue;
+    int widest = 0;
+    for (int row = 0; row < rows; ++row) {
+      widest = std::max(widest, fontMetrics().horizontalAdvance(ToQt(grid_->DisplayText(row, col))));
+    }
+    const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
+    const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
+    needs_[static_cast<std::size_t>(col)] = std::min(widest + 2 * GridCellPainter::kPadding + 2 + helper, kWidestText);
+  }
+}
+
+/// Each column first gets the width it was given or what its texts need, whichever is less; then, as far as there is
+/// room, what the texts need; then it grows with the font. The rest is the last column's.
+void GridView::ArrangeColumns() {
+  const QScopedValueRollback arranging(arranging_, true);
+  std::vector<int> widths(needs_.size(), 0);
+  int room = viewport()->width();
+  const auto raise = [&](auto wanted) {
+    for (std::size_t col = 0; col < widths.size(); ++col) {
+      const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
+      if (given == 0) continue;
+      const int more = std::clamp(wanted(given, needs_[col]) - widths[col], 0, std::max(0, room));
+      widths[col] += more;
+      room -= more;
+    }
+  };
+  for (std::size_t col = 0; col < widths.size(); ++col) {
+    widths[col] = std::min(ToPixels(grid_->ColWidth(static_cast<int>(col))), std::max(needs_[col], kNarrowest));
+    room -= widths[col];
+  }
+  raise([](int, int need) { return need; });
+  raise([](int given, int) { return given; });
+  raise([](int given, int) { return static_cast<int>(given * kColumnGrowth); });
+  for (std::size_t at = 0; at < widths.size(); ++at) {
+    const int col = static_cast<int>(at);
+    setColumnHidden(col, grid_->ColWidth(col) == 0);
+    if (grid_->ColWidth(col) == 0) continue;
+    const auto own = userWidths_.find(col);
+    setColumnWidth(col, own == userWidths_.end() ? widths[at] : own->second);
+  }
+}
+
+void GridView::SectionResized(int section, int width) {
+  if (!arranging_ && QApplication::mouseButtons() & Qt::LeftButton && horizontalHeader()->underMouse()) {
+    userWidths_[section] = width;
+  }
+  if (grid_) editor_->Place(CurrentCell());
+}
+
+void GridView::TellVisibleRows() {
+  if (grid_) grid_->SetVisibleRows(viewport()->height() / verticalHeader()->defaultSectionSize());
+}
+
+// The window around it.
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  TellVisibleRows();
+  if (grid_ && !allWaiting_) ArrangeColumns();
+}
+
+void GridView::updateGeometries() {
+  QTableView::updateGeometries();
+  TellVisibleRows();
+}
+
+void GridView::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  if (grid_) editor_->Place(CurrentCell());
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  viewport()->update();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  viewport()->update();
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+  const bool needsRows = event->type() == QEvent::Paint || event->type() == QEvent::MouseButtonPress ||
+                         event->type() == QEvent::MouseButtonDblClick || event->type() == QEvent::Wheel;
+  if (waiting_ && needsRows) CatchUp();
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (ShowCutOffText(help->pos(), help->globalPos())) return true;
+  }
+  return QTableView::viewportEvent(event);
+}
+
+bool GridView::ShowCutOffText(const QPoint& at, const QPoint& onScreen) {
+  const QModelIndex cell = indexAt(at);
+  if (!grid_ || !cell.isValid()) return false;
+  const QString text = cell.data().toString();
+  const int room = columnWidth(cell.column()) - 2 * GridCellPainter::kPadding;
+  if (fontMetrics().horizontalAdvance(text) <= room) return false;
+  QToolTip::showText(onScreen, text, viewport(), visualRect(cell));
+  return true;
+}
+
+// The user.
+
+bool GridView::event(QEvent* event) {
+  // Tab moves between cells before it moves between controls.
+  if (event->type() == QEvent::KeyPress) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+      keyPressEvent(key);
+      return true;
+    }
+  }
+  return QTableView::event(event);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  if (!grid_) return;
+  Form& form = grid_->Parent();
+  GridKeyPress press{};
+  if (ToGridKey(*event, press)) {
+    const bool used = grid_->UserKey(press.key, press.modifiers);
+    if (!used && grid_ && press.key == Key::Tab) return form.UserTab(press.modifiers.shift);
+    const bool opens = press.key == Key::F4 || (press.key == Key::Down && press.modifiers.alt);
+    if (used && opens) editor_->OpenList();
+    event->setAccepted(used);
+    return;
+  }
+  const bool isText = !event->text().isEmpty() && event->text().at(0).isPrint() &&
+                      !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+  event->setAccepted(isText);
+  if (isText) grid_->UserText(FromQt(event->text()));
+}
+
+void GridView::inputMethodEvent(QInputMethodEvent* event) {
+  if (grid_ && !event->commitString().isEmpty()) grid_->UserText(FromQt(event->commitString()));
+  event->accept();
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  if (!grid_ || event->button() != Qt::LeftButton) return;
+  const QModelIndex cell = indexAt(event->pos());
+  if (!cell.isValid()) return grid_->SetFocus();
+  const int row = cell.row() + 1;
+  const bool onHelper =
+      painter_->ShowsHelper(row, cell.column()) && GridCellPainter::HelperRect(visualRect(cell)).contains(event->pos());
+  onHelper ? ClickOnHelper(row, cell.column()) : grid_->UserClick(row, cell.column());
+}
+
+void GridView::ClickOnHelper(int row, int col) {
+  if (grid_->Helper(col) == CellHelper::Button) return grid_->PressCellButton(row, col);
+  grid_->UserClick(row, col);
+  if (!grid_ || grid_->Row() != row || grid_->Col() != col || !grid_->HasFocus()) return;
+  grid_->UserKey(Key::F4);
+  editor_->OpenList();
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (!grid_ || event->button() != Qt::LeftButton) return;
+  const QModelIndex cell = indexAt(event->pos());
+  if (!cell.isValid()) return;
+  grid_->UserDoubleClick(cell.row() + 1, cell.column());
+  editor_->OpenList();
+}
+
+}  // namespace norvane::ui

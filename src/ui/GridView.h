@@ -1,0 +1,78 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include <QTableView>
+
+#include "forms/Grid.h"
+#include "ui/Binding.h"
+
+namespace norvane::ui {
+
+class GridCellEditor;
+class GridCellPainter;
+class GridTableModel;
+
+/// The table that shows a grid. The grid decides everything: the view hands it keys, text and clicks, and draws what
+/// has become of them. However often the grid changes, the view catches up once, before it paints or takes input.
+class GridView : public QTableView, private GridObserver {
+ public:
+  GridView(Grid& grid, QWidget* parent);
+  Binding* Bound() const { return binding_; }
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent*) override {}
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void updateGeometries() override;
+
+ private:
+  void ColumnsChanged() override;
+  void RowsReset() override;
+  void RowsInserted(int first, int count) override;
+  void RowsRemoved(int first, int count) override;
+  void CellChanged(int row, int col) override;
+  void CursorMoved() override;
+  void TopRowChanged() override;
+  void EditChanged() override;
+
+  void SetLook();
+  void Abandon();
+  void Later();
+  void CatchUp();
+  void MeasureColumns();
+  void ArrangeColumns();
+  bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);
+  void FollowTopRow();
+  void TellVisibleRows();
+  QRect CurrentCell() const;
+  void SectionResized(int section, int width);
+  void ClickOnHelper(int row, int col);
+
+  Grid* grid_;
+  GridTableModel* table_;
+  GridCellPainter* painter_;
+  GridCellEditor* editor_;
+  Binding* binding_;
+  std::map<int, int> userWidths_;  ///< by column, in pixels
+  std::vector<int> needs_;         ///< by column: what its texts take, in pixels
+  bool waiting_ = false;           ///< it has to catch up
+  bool allWaiting_ = true;
+  bool arranging_ = false;
+  bool following_ = false;
+};
+
+}  // namespace norvane::ui

@@ -1,0 +1,279 @@
+#include "ui/LayoutBuilder.h"
+
+#include <algorithm>
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTabWidget>
+
+#include "forms/Controls.h"
+#include "ui/Convert.h"
+#include "ui/StripLayout.h"
+
+namespace norvane::ui {
+namespace {
+
+using layout::Kind;
+using layout::Node;
+
+constexpr int kMargin = 10;
+constexpr int kSpacing = 8;
+constexpr int kBetweenPairs = 14;
+
+/// A group without caption only holds its content together.
+bool IsPlain(const Node& group) {
+  const auto* frame = dynamic_cast<const Frame*>(group.control);
+  return group.caption.empty() && (!frame || frame->Caption().empty());
+}
+
+bool IsBand(const Node& node) {
+  if (node.kind == Kind::Strip) return true;
+  return node.kind == Kind::Group && IsPlain(node) && node.children.size() == 1 &&
+         node.children.front().kind == Kind::Strip;
+}
+
+QString WithoutMnemonic(QString caption) {
+  return caption.remove('&');
+}
+
+/// The first widget in it that takes the keyboard.
+QWidget* FirstFocusable(QWidget* widget, QLayout* layout) {
+  if (widget) return widget->focusPolicy() != Qt::NoFocus ? widget : nullptr;
+  for (int i = 0; layout && i < layout->count(); ++i) {
+    if (QWidget* found = FirstFocusable(layout->itemAt(i)->widget(), layout->itemAt(i)->layout())) return found;
+  }
+  return nullptr;
+}
+
+QWidget* FirstWidget(QWidget* widget, QLayout* layout) {
+  if (widget || !layout || layout->count() == 0) return widget;
+  return FirstWidget(layout->itemAt(0)->widget(), layout->itemAt(0)->layout());
+}
+
+}  // namespace
+
+void LayoutBuilder::Fill(QWidget& page, const Node& root) {
+  auto* outer = new QVBoxLayout(&page);
+  outer->setContentsMargins(0, 0, 0, 0);
+  outer->setSpacing(0);
+  QVBoxLayout* inner = nullptr;
+  const auto addInner = [&](const Node& node) {
+    if (!inner) {
+      inner = new QVBoxLayout;
+      inner->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+      inner->setSpacing(kSpacing);
+      outer->addLayout(inner, 1);
+    }
+    AddToBox(*inner, node, page);
+  };
+  if (root.kind != Kind::Column) {
+    addInner(root);
+    return;
+  }
+  for (const auto& child : root.children) {
+    if (IsBand(child)) {
+      outer->addWidget(BuildBand(child, page));
+      inner = nullptr;
+    } else if (dynamic_cast<StatusBar*>(child.control)) {
+      Build(child, page);
+    } else {
+      addInner(child);
+    }
+  }
+  if (inner && !(inner->expandingDirections() & Qt::Vertical)) inner->addStretch();
+}
+
+QWidget* LayoutBuilder::BuildBand(const Node& node, QWidget& page) {
+  QWidget* band = Build(node, page).widget;
+  band->setProperty("strip", true);
+  band->layout()->setContentsMargins(kMargin - 4, 5, kMargin - 4, 5);
+  band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  return band;
+}
+
+LayoutBuilder::Piece LayoutBuilder::Build(const Node& node, QWidget& page) {
+  switch (node.kind) {
+    case Kind::Control:
+      return BuildControl(node, page);
+    case Kind::Row:
+      return BuildBox(node, page, Qt::Horizontal);
+    case Kind::Column:
+    case Kind::Tab:
+      return BuildBox(node, page, Qt::Vertical);
+    case Kind::Strip:
+      return BuildStrip(node, page);
+    case Kind::Fields:
+      return BuildFields(node, page);
+    case Kind::Field:
+      return BuildField(node, page);
+    case Kind::Group:
+      return BuildGroup(node, page);
+    case Kind::Tabs:
+      return BuildTabs(node, page);
+    case Kind::Line:
+      return BuildLine(page, Qt::Horizontal);
+    case Kind::Space:
+      return {};
+  }
+  return {};
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildControl(const Node& node, QWidget& page) {
+  Binding* binding = factory_.Make(*node.control, &page);
+  if (!binding) return {};
+  made_(*node.control, *binding);
+  if (auto* bar = qobject_cast<QStatusBar*>(&binding->Widget())) {
+    statusBar_ = bar;
+    return {};
+  }
+  return {&binding->Widget(), nullptr};
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildBox(const Node& node, QWidget& page, Qt::Orientation orientation) {
+  const bool across = orientation == Qt::Horizontal;
+  auto* box = new QBoxLayout(across ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  box->setSpacing(kSpacing);
+  for (const auto& child : node.children) AddToBox(*box, child, page);
+  if (!(box->expandingDirections() & orientation)) box->addStretch();
+  return {nullptr, box};
+}
+
+void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page) {
+  if (node.kind == Kind::Space) return box.addStretch(std::max(1, node.stretch));
+  const bool across = box.direction() == QBoxLayout::LeftToRight;
+  const Piece piece =
+      node.kind == Kind::Line ? BuildLine(page, across ? Qt::Vertical : Qt::Horizontal) : Build(node, page);
+  if (piece.widget) box.addWidget(piece.widget, node.stretch);
+  if (piece.layout) box.addLayout(piece.layout, node.stretch);
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildStrip(const Node& node, QWidget& page) {
+  auto* frame = new QFrame(&page);
+  auto* strip = new StripLayout(frame);
+  strip->setContentsMargins(0, 0, 0, 0);
+  for (const auto& child : node.children) {
+    if (child.kind == Kind::Space) {
+      strip->AddStretch();
+      continue;
+    }
+    const Piece piece = child.kind == Kind::Line ? BuildLine(*frame, Qt::Vertical) : Build(child, *frame);
+    if (piece.widget) strip->AddWidget(piece.widget);
+    if (piece.layout) strip->AddLayout(piece.layout);
+  }
+  return {frame, nullptr};
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildFields(const Node& node, QWidget& page) {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(kSpacing);
+  grid->setVerticalSpacing(kSpacing - 2);
+  const int columns = std::max(1, node.columns);
+  int index = 0;
+  for (const auto& child : node.children) {
+    AddToGrid(*grid, child, page, index / columns, index % columns * 2);
+    ++index;
+  }
+  for (int column = 0; column < columns; ++column) grid->setColumnStretch(column * 2 + 1, 1);
+  return {nullptr, grid};
+}
+
+void LayoutBuilder::AddToGrid(QGridLayout& grid, const Node& node, QWidget& page, int row, int column) {
+  const bool isField = node.kind == Kind::Field;
+  const Piece content = isField ? Build(node.children.front(), page) : Build(node, page);
+  const int first = isField ? column + 1 : column;
+  if (content.widget) grid.addWidget(content.widget, row, first, 1, column + 2 - first);
+  if (content.layout) grid.addLayout(content.layout, row, first, 1, column + 2 - first);
+  if (!isField) return;
+  QWidget* label = LabelFor(node, page, content);
+  if (column > 0) label->setContentsMargins(kBetweenPairs, 0, 0, 0);
+  const bool tall = content.widget && content.widget->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
+  grid.addWidget(label, row, column, tall ? Qt::AlignTop : Qt::AlignVCenter);
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildField(const Node& node, QWidget& page) {
+  auto* box = new QHBoxLayout;
+  box->setSpacing(kSpacing);
+  const Piece content = Build(node.children.front(), page);
+  box->addWidget(LabelFor(node, page, content));
+  if (content.widget) box->addWidget(content.widget);
+  if (content.layout) box->addLayout(content.layout);
+  return {nullptr, box};
+}
+
+QWidget* LayoutBuilder::LabelFor(const Node& field, QWidget& page, const Piece& content) {
+  auto* label = new QLabel(&page);
+  const QString caption = ToQt(field.caption);
+  QWidget* buddy = FirstFocusable(content.widget, content.layout);
+  label->setText(buddy ? caption : WithoutMnemonic(caption));
+  label->setBuddy(buddy);
+  if (buddy) buddy->setAccessibleName(WithoutMnemonic(caption).remove(':'));
+  QWidget* companion = FirstWidget(content.widget, content.layout);
+  if (Binding* binding = Binding::Of(companion); binding && &binding->Widget() == companion) {
+    binding->SetCompanion(label);
+  }
+  return label;
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildGroup(const Node& node, QWidget& page) {
+  const bool plain = IsPlain(node);
+  QWidget* holder = nullptr;
+  if (plain && node.children.front().kind == Kind::Strip) {
+    holder = BuildStrip(node.children.front(), page).widget;
+  } else {
+    holder = plain ? static_cast<QWidget*>(new QFrame(&page)) : new QGroupBox(&page);
+    const Piece content = Build(node.children.front(), *holder);
+    auto* inner = new QVBoxLayout(holder);
+    const int margin = plain ? 0 : kSpacing;
+    inner->setContentsMargins(margin, margin, margin, margin);
+    if (content.widget) inner->addWidget(content.widget);
+    if (content.layout) inner->addLayout(content.layout);
+  }
+  if (auto* box = qobject_cast<QGroupBox*>(holder)) box->setTitle(ToQt(node.caption));
+  BindFrame(node, *holder);
+  return {holder, nullptr};
+}
+
+Binding* LayoutBuilder::BindFrame(const Node& group, QWidget& widget) {
+  auto* frame = dynamic_cast<Frame*>(group.control);
+  if (!frame) return nullptr;
+  auto* binding = new Binding(*frame, widget, nullptr);
+  if (auto* box = qobject_cast<QGroupBox*>(&widget)) box->setTitle(ToQt(frame->Caption()));
+  made_(*frame, *binding);
+  return binding;
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildTabs(const Node& node, QWidget& page) {
+  Binding* binding = factory_.Make(*node.control, &page);
+  made_(*node.control, *binding);
+  auto* tabs = static_cast<QTabWidget*>(&binding->Widget());
+  for (const auto& tab : node.children) {
+    auto* leaf = new QWidget(tabs);
+    auto* box = new QVBoxLayout(leaf);
+    box->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    box->setSpacing(kSpacing);
+    for (const auto& child : tab.children) AddToBox(*box, child, *leaf);
+    if (!(box->expandingDirections() & Qt::Vertical)) box->addStretch();
+    const QSignalBlocker quiet(tabs);
+    tabs->addTab(leaf, ToQt(tab.caption));
+  }
+  binding->Refresh();
+  return {tabs, nullptr};
+}
+
+LayoutBuilder::Piece LayoutBuilder::BuildLine(QWidget& page, Qt::Orientation orientation) {
+  auto* rule = new QFrame(&page);
+  rule->setProperty("rule", true);
+  if (orientation == Qt::Horizontal) {
+    rule->setFixedHeight(1);
+  } else {
+    rule->setFixedWidth(1);
+    rule->setMinimumHeight(22);
+  }
+  return {rule, nullptr};
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,244 @@
+#include "ui/QtDesktop.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QStandardPaths>
+#include <QStorageInfo>
+#include <QTimer>
+#include <QWindow>
+
+#include "core/RuntimeError.h"
+#include "forms/Form.h"
+#include "ui/Convert.h"
+#include "ui/FormWindow.h"
+#include "ui/HelpViewer.h"
+
+namespace norvane::ui {
+namespace {
+
+constexpr int kAppearMilliseconds = 250;
+
+QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::Ok:
+      return QMessageBox::Ok;
+    case Buttons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+  switch (answer) {
+    case Answer::Ok:
+      return QMessageBox::Ok;
+    case Answer::Yes:
+      return QMessageBox::Yes;
+    case Answer::No:
+      return QMessageBox::No;
+    case Answer::Cancel:
+      return QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+Answer AnswerOf(int button) {
+  if (button == QMessageBox::Yes) return Answer::Yes;
+  if (button == QMessageBox::No) return Answer::No;
+  return button == QMessageBox::Cancel ? Answer::Cancel : Answer::Ok;
+}
+
+QMessageBox::Icon IconOf(Icon icon) {
+  switch (icon) {
+    case Icon::None:
+      return QMessageBox::NoIcon;
+    case Icon::Question:
+      return QMessageBox::Question;
+    case Icon::Information:
+      return QMessageBox::Information;
+    case Icon::Critical:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+bool IsMountedMedium(const QString& root) {
+  const auto below = [&](const char* folder) { return root.startsWith(QLatin1String(folder)); };
+  return below("/media/") || below("/run/media/") || below("/mnt/");
+}
+
+std::filesystem::path ToPath(const QString& path) {
+  return {path.toStdU16String()};
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(RegionalSettings settings, Theme theme) {
+  QApplication::setQuitOnLastWindowClosed(false);
+  ApplyTheme(*qApp, theme);
+  RegisterStandardWidgets(widgets_, settings);
+}
+
+QtDesktop::~QtDesktop() {
+  for (const auto& [form, window] : windows_) delete window;
+  delete help_;
+}
+
+void QtDesktop::Run() {
+  if (!ended_) QApplication::exec();
+}
+
+FormWindow* QtDesktop::WindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second;
+}
+
+Date QtDesktop::Now() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  return FromQt(now.date()) + now.time().msecsSinceStartOfDay() / 86400000.0;
+}
+
+Answer QtDesktop::Ask(const Message& message) {
+  QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text), ButtonsOf(message.buttons),
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(ButtonOf(message.preselected));
+  box.setWindowModality(Qt::ApplicationModal);
+  if (message.buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
+  const QScopedValueRollback holding(holdTimers_, false);
+  return AnswerOf(box.exec());
+}
+
+void QtDesktop::FormShown(Form& form) {
+  focus_.Forget();
+  FormWindow*& window = windows_[&form];
+  const bool isNew = !window;
+  if (isNew) window = new FormWindow(form, widgets_, focus_);
+  window->Present(form.Owner() ? WindowOf(*form.Owner()) : nullptr);
+  if (isNew && form.Style().goesWithOwner) LetAppear(*window);
+}
+
+/// A notice is there to be seen during the work that follows, which leaves the event loop no time. Timers wait.
+void QtDesktop::LetAppear(QWidget& window) {
+  const QScopedValueRollback holding(holdTimers_, true);
+  QElapsedTimer patience;
+  patience.start();
+  while (patience.elapsed() < kAppearMilliseconds && !(window.windowHandle() && window.windowHandle()->isExposed())) {
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+  window.repaint();
+}
+
+void QtDesktop::FormHidden(Form& form) {
+  focus_.Forget();
+  if (FormWindow* window = WindowOf(form)) window->Withdraw();
+  if (const auto found = modal_.find(&form); found != modal_.end()) found->second->quit();
+}
+
+void QtDesktop::FormDestroyed(Form& form) {
+  const auto found = windows_.find(&form);
+  if (found == windows_.end()) return;
+  FormWindow* window = found->second;
+  windows_.erase(found);
+  window->Abandon();
+}
+
+void QtDesktop::RunModal(Form& form) {
+  if (!form.IsVisible()) return;
+  QEventLoop loop;
+  modal_[&form] = &loop;
+  RunLoop(loop);
+  modal_.erase(&form);
+}
+
+void QtDesktop::RunLoop(QEventLoop& loop) {
+  if (ended_) return;
+  const QScopedValueRollback holding(holdTimers_, false);
+  loops_.push_back(&loop);
+  loop.exec();
+  loops_.erase(std::find(loops_.begin(), loops_.end(), &loop));
+}
+
+void QtDesktop::Quit() {
+  ended_ = true;
+  for (QEventLoop* loop : loops_) loop->quit();
+  QApplication::quit();
+}
+
+void QtDesktop::Repaint(Form* form) {
+  for (const auto& [known, window] : windows_) {
+    if (!window->isVisible() || (form && form != known)) continue;
+    QApplication::sendPostedEvents(window, QEvent::LayoutRequest);
+    window->repaint();
+    for (auto* child : window->findChildren<QWidget*>()) child->repaint();
+  }
+}
+
+void QtDesktop::DoEvents() {
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtDesktop::Wait(double seconds) {
+  QEventLoop loop;
+  QTimer::singleShot(static_cast<int>(seconds * 1000), &loop, &QEventLoop::quit);
+  RunLoop(loop);
+}
+
+void QtDesktop::TimerChanged(Timer& timer) {
+  auto& clock = timers_[&timer];
+  if (clock) {
+    clock->stop();
+    clock.release()->deleteLater();  // it may be the one whose tick runs
+  }
+  if (!timer.Running()) {
+    timers_.erase(&timer);
+    return;
+  }
+  clock = std::make_unique<QTimer>();
+  QObject::connect(clock.get(), &QTimer::timeout, clock.get(), [this, &timer] {
+    if (!holdTimers_) timer.Tick.Raise();
+  });
+  clock->start(timer.Interval());
+}
+
+void QtDesktop::SetMousePointer(MousePointer pointer) {
+  const bool busy = pointer == MousePointer::Hourglass;
+  if (busy && !pointerSet_) QApplication::setOverrideCursor(Qt::WaitCursor);
+  if (!busy && pointerSet_) QApplication::restoreOverrideCursor();
+  pointerSet_ = busy;
+}
+
+void QtDesktop::ShowHelp(const std::filesystem::path& folder) {
+  if (!std::filesystem::exists(folder / HelpViewer::kFirstPage)) Raise(ErrorNumber::FileNotFound);
+  if (!help_) help_ = new HelpViewer(folder);
+  help_->showMaximized();
+  help_->raise();
+  help_->activateWindow();
+}
+
+std::filesystem::path QtDesktop::DocumentsFolder() const {
+  return ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+std::filesystem::path QtDesktop::CurrentFolder() const {
+  return std::filesystem::current_path();
+}
+
+std::vector<std::filesystem::path> QtDesktop::Drives() const {
+  std::vector<std::filesystem::path> drives = {"/", ToPath(QDir::homePath())};
+  for (const auto& volume : QStorageInfo::mountedVolumes()) {
+    if (volume.isReady() && IsMountedMedium(volume.rootPath())) drives.push_back(ToPath(volume.rootPath()));
+  }
+  return drives;
+}
+
+}  // namespace norvane::ui

@@ -1,0 +1,107 @@
+#include "ui/StripLayout.h"
+
+#include <algorithm>
+
+#include <QWidget>
+
+namespace norvane::ui {
+namespace {
+
+int HeightOf(const QList<QLayoutItem*>& line) {
+  int height = 0;
+  for (const auto* item : line) height = std::max(height, item->sizeHint().height());
+  return height;
+}
+
+/// What an item takes: labels and fields never less than they need.
+QSize NeedOf(const QLayoutItem& item) {
+  return item.sizeHint().expandedTo(item.minimumSize()).boundedTo(item.maximumSize());
+}
+
+}  // namespace
+
+StripLayout::StripLayout(QWidget* parent) : QLayout(parent) {
+  setContentsMargins(10, 5, 10, 5);
+  setSpacing(4);
+}
+
+StripLayout::~StripLayout() {
+  qDeleteAll(items_);
+}
+
+void StripLayout::AddLayout(QLayout* layout) {
+  addChildLayout(layout);
+  addItem(layout);
+}
+
+void StripLayout::AddStretch() {
+  addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));
+}
+
+QLayoutItem* StripLayout::takeAt(int index) {
+  return index >= 0 && index < items_.size() ? items_.takeAt(index) : nullptr;
+}
+
+QList<StripLayout::Line> StripLayout::LinesFor(int width) const {
+  QList<Line> lines{{}};
+  for (auto* item : items_) {
+    if (item->isEmpty() && !item->spacerItem()) continue;
+    if (!lines.back().isEmpty() && WidthOf(lines.back()) + spacing() + NeedOf(*item).width() > width)
+      lines.append(Line());
+    lines.back().append(item);
+  }
+  return lines;
+}
+
+int StripLayout::WidthOf(const Line& line) const {
+  int width = 0;
+  for (const auto* item : line) width += NeedOf(*item).width() + spacing();
+  return std::max(0, width - spacing());
+}
+
+int StripLayout::heightForWidth(int width) const {
+  const QMargins margins = contentsMargins();
+  const auto lines = LinesFor(width - margins.left() - margins.right());
+  int height = margins.top() + margins.bottom() + spacing() * static_cast<int>(lines.size() - 1);
+  for (const auto& line : lines) height += HeightOf(line);
+  return height;
+}
+
+QSize StripLayout::sizeHint() const {
+  const QMargins margins = contentsMargins();
+  const Line all = LinesFor(QWIDGETSIZE_MAX).front();
+  return {WidthOf(all) + margins.left() + margins.right(), HeightOf(all) + margins.top() + margins.bottom()};
+}
+
+QSize StripLayout::minimumSize() const {
+  QSize widest;
+  for (const auto* item : items_) widest = widest.expandedTo(NeedOf(*item));
+  const QMargins margins = contentsMargins();
+  return widest + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+void StripLayout::setGeometry(const QRect& rect) {
+  QLayout::setGeometry(rect);
+  QRect inner = rect.marginsRemoved(contentsMargins());
+  const auto lines = LinesFor(inner.width());
+  for (const auto& line : lines) {
+    const int height = lines.size() == 1 ? inner.height() : HeightOf(line);
+    Place(line, QRect(inner.left(), inner.top(), inner.width(), height));
+    inner.setTop(inner.top() + height + spacing());
+  }
+}
+
+void StripLayout::Place(const Line& line, const QRect& rect) const {
+  const auto isSpacer = [](QLayoutItem* item) { return item->spacerItem() != nullptr; };
+  const auto spacers = static_cast<int>(std::count_if(line.begin(), line.end(), isSpacer));
+  const int slack = spacers ? std::max(0, rect.width() - WidthOf(line)) / spacers : 0;
+  int x = rect.left();
+  for (auto* item : line) {
+    const QSize size = isSpacer(item) ? QSize(slack, 0) : NeedOf(*item);
+    const int height = std::min(rect.height(), size.height());
+    item->setGeometry({x, rect.top() + (rect.height() - height) / 2, size.width(), height});
+    x += size.width() + spacing();
+  }
+}
+
+}  // namespace norvane::ui

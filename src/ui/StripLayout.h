@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLayout>
+#include <QList>
+
+namespace norvane::ui {
+
+/// Side by side at natural size, going on in a further line where the width ends, so that a narrow window cuts no
+/// button off. An expanding spacer pushes what follows to the right edge of its line.
+class StripLayout : public QLayout {
+ public:
+  explicit StripLayout(QWidget* parent);
+  ~StripLayout() override;
+
+  void AddWidget(QWidget* widget) { addWidget(widget); }
+  void AddLayout(QLayout* layout);
+  void AddStretch();
+
+  void addItem(QLayoutItem* item) override { items_.append(item); }
+  int count() const override { return static_cast<int>(items_.size()); }
+  QLayoutItem* itemAt(int index) const override { return items_.value(index); }
+  QLayoutItem* takeAt(int index) override;
+  Qt::Orientations expandingDirections() const override { return {}; }
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override;
+  QSize sizeHint() const override;
+  QSize minimumSize() const override;
+  void setGeometry(const QRect& rect) override;
+
+ private:
+  using Line = QList<QLayoutItem*>;
+  QList<Line> LinesFor(int width) const;
+  int WidthOf(const Line& line) const;
+  void Place(const Line& line, const QRect& rect) const;
+
+  QList<QLayoutItem*> items_;
+};
+
+}  // namespace norvane::ui

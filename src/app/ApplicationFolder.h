@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+
+namespace norvane {
+
+/// The folder that holds the database and the settings, as `executable` (the name the program was started by) tells.
+///
+/// It is the executable's folder if the database is there. Links are not followed: a link to the program beside a
+/// database is a program of its own. Otherwise it is a folder of the user's own, which is made at the first start,
+/// readable by nobody else, with a copy of the delivered database. Once that folder exists nothing is ever put into it.
+std::filesystem::path ApplicationFolder(const char* executable);
+
+}  // namespace norvane

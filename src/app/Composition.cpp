@@ -1,0 +1,13 @@
+#include "app/Composition.h"
+
+#include "forms/Program.h"
+#include "screens/Screens.h"
+#include "ui/QtDesktop.h"
+
+namespace norvane {
+
+void Compose(Program& program, ui::QtDesktop&) {
+  RegisterScreens(program);
+}
+
+}  // namespace norvane

@@ -1,0 +1,148 @@
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTableView>
+
+#include "ui/GridCellPainter.h"
+#include "ui/WindowTest.h"
+
+namespace norvane::ui {
+namespace {
+
+class GridInWindow : public WindowTest {
+ protected:
+  GridInWindow() {
+    Rows().SetFocus();
+    Log();
+  }
+  Grid& Rows() { return Demo().Rows; }
+  QTableView& Table() { return Of<QTableView>(Rows()); }
+  QRect Cell(int row, int col) { return Table().visualRect(Table().model()->index(row - 1, col)); }
+  void ClickCell(int row, int col) {
+    QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, Cell(row, col).center());
+    Settle();
+  }
+  void ClickHelper(int row, int col) {
+    QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, GridCellPainter::HelperRect(Cell(row, col)).center());
+    Settle();
+  }
+  QString Shown(int row, int col) { return Table().model()->index(row - 1, col).data().toString(); }
+};
+
+TEST_F(GridInWindow, TypingEditsAndAnArrowMovesOn) {
+  ClickCell(2, 1);
+  EXPECT_EQ(Log(), "LeaveCell RowColChange EnterCell Click");
+  Type("ab");
+  EXPECT_EQ(Log(), "BeforeEdit");
+  EXPECT_EQ(Rows().EditText(), "ab");
+  EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), "ab");
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Log(), "AfterEdit=ab LeaveCell RowColChange EnterCell");
+  EXPECT_EQ(Shown(2, 1), "ab");
+  EXPECT_EQ(Rows().Col(), 2);
+  EXPECT_TRUE(Table().hasFocus());
+}
+
+TEST_F(GridInWindow, F2KeepsTheTextAndEscapeDropsTheEdit) {
+  ClickCell(1, 1);
+  Log();
+  Key(Qt::Key_F2);
+  auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  ASSERT_TRUE(field);
+  EXPECT_EQ(field->text(), "Paper");
+  Key(Qt::Key_End);
+  Type("!");
+  EXPECT_EQ(Rows().EditText(), "Paper!");
+  Key(Qt::Key_Left);  // moves in the text
+  EXPECT_TRUE(Rows().Editing());
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Rows().Cell(1, 1), "Paper");
+  EXPECT_EQ(Log(), "BeforeEdit");
+  EXPECT_TRUE(program.screens.Find(DemoForm::kName)) << "Escape in an edit is not the cancel button's";
+}
+
+TEST_F(GridInWindow, ADoubleClickEdits) {
+  ClickCell(2, 6);
+  Log();
+  QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, Cell(2, 6).center());
+  EXPECT_EQ(Log(), "DblClick BeforeEdit");
+  EXPECT_TRUE(Rows().Editing());
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Log(), "") << "nothing was changed";
+}
+
+TEST_F(GridInWindow, ADropDownShowsTextsAndKeepsKeys) {
+  EXPECT_EQ(Shown(1, 2), "Goods");
+  ClickCell(1, 2);
+  Log();
+  ClickHelper(1, 2);
+  auto* list = Table().viewport()->findChild<QComboBox*>();
+  ASSERT_TRUE(list->isVisible());
+  ASSERT_TRUE(list->view()->isVisible());
+  QTest::keyClick(list->view(), Qt::Key_Down);
+  QTest::keyClick(list->view(), Qt::Key_Return);
+  EXPECT_EQ(Rows().Cell(1, 2), "2");
+  EXPECT_EQ(Shown(1, 2), "Services");
+  EXPECT_EQ(Log(), "Click BeforeEdit AfterEdit=2");
+  EXPECT_TRUE(Table().hasFocus());
+
+  Type("F");
+  EXPECT_EQ(Rows().EditText(), "Freight") << "letters search";
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Rows().Cell(1, 2), "3");
+  Key(Qt::Key_F4);
+  EXPECT_TRUE(list->view()->isVisible());
+}
+
+TEST_F(GridInWindow, ACheckBoxTurnsByClickAndSpace) {
+  ClickCell(1, 4);
+  EXPECT_EQ(Rows().Cell(1, 4), "-1");
+  Key(Qt::Key_Space);
+  EXPECT_EQ(Rows().Cell(1, 4), "0");
+  EXPECT_EQ(Table().model()->index(1, 4).data(Qt::CheckStateRole), Qt::Checked);
+}
+
+TEST_F(GridInWindow, TheCellButtonMovesTheCursorAndIsNoClick) {
+  ClickHelper(1, 5);
+  EXPECT_EQ(Log(), "LeaveCell RowColChange EnterCell CellButtonClick");
+  EXPECT_EQ(Rows().Col(), 5);
+  Key(Qt::Key_F4);
+  EXPECT_EQ(Log(), "CellButtonClick");
+}
+
+TEST_F(GridInWindow, ManyRowsAreCaughtUpWithInOneStep) {
+  int steps = 0;
+  QObject::connect(Table().model(), &QAbstractItemModel::rowsInserted, &Table(), [&] { ++steps; });
+  for (int row = 0; row < 5000; ++row) Rows().AddItem("\tItem " + std::to_string(row));
+  Settle();
+  EXPECT_EQ(Table().model()->rowCount(), 5003);
+  EXPECT_EQ(steps, 1);
+  EXPECT_GT(Rows().VisibleRows(), 3);
+
+  Rows().SetRow(4000);
+  Settle();
+  EXPECT_EQ(Table().verticalScrollBar()->value(), Rows().TopRow() - 1);
+  EXPECT_TRUE(Table().viewport()->rect().contains(Cell(4000, 1)));
+  Table().verticalScrollBar()->setValue(99);
+  EXPECT_EQ(Rows().TopRow(), 100);
+  Rows().SetRows(2);
+  Settle();
+  EXPECT_EQ(Table().model()->rowCount(), 1);
+}
+
+TEST_F(GridInWindow, ColumnsTakeWidthHeadingAndAlignmentFromTheModel) {
+  Rows().SetColWidth(6, 0);
+  Rows().SetCell(0, 1, "Article");
+  Settle();
+  EXPECT_TRUE(Table().isColumnHidden(6));
+  EXPECT_EQ(Table().model()->headerData(1, Qt::Horizontal, Qt::DisplayRole), "Article");
+  EXPECT_GE(Table().columnWidth(1), 1300 / 15);
+  const auto alignment = Table().model()->index(0, 3).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+  EXPECT_TRUE(alignment.testFlag(Qt::AlignRight));
+  const int last = Table().columnViewportPosition(5) + Table().columnWidth(5);
+  EXPECT_EQ(last, Table().viewport()->width()) << "the last column shown takes the rest";
+}
+
+}  // namespace
+}  // namespace norvane::ui

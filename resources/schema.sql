@@ -184,7 +184,8 @@ CREATE TABLE tb_Shipping (
 -- An invoice's total is worked out as everywhere in the program: the lines less the discount, plus the charges, in
 -- doubles, then turned to ten-thousandths, halves to the even one, by the exact binary value. The product by 10,000 is
 -- rounded itself, so where it says "half" (and nowhere else can it mislead) the value is compared exactly: cut at its
--- 26th binary place, both pieces times 20,000 fit a double. Lines count alone where a charge is missing.
+-- 26th binary place, both pieces times 20,000 fit a double. Lines count alone where a charge is missing. Sums and
+-- totals are materialized so that each is worked out once.
 --
 -- The first, empty half names the columns' types, since a computed column has none of its own.
 CREATE VIEW ClientBals AS
@@ -192,21 +193,22 @@ WITH
   calendar(tomorrow) AS (
     SELECT CAST(julianday('now', 'localtime', 'start of day') - 2415018.5 AS INTEGER) + 1
   ),
-  invoices(CustNum, Lines, Amount) AS MATERIALIZED (
+  invoices(CustNum, Discount, ShippingCharge, Interest, Tax, Lines) AS MATERIALIZED (
+    SELECT CustNum, Discount, ShippingCharge, Interest, Tax,
+           ifnull((SELECT sum(Amount) FROM tb_trans WHERE tb_trans.InvoiceNum = tb_Invoice.InvoiceNum), 0)
+    FROM tb_Invoice
+    WHERE "Date" > 29587 AND "Date" <= (SELECT tomorrow FROM calendar)
+  ),
+  totals(CustNum, Lines, Amount) AS MATERIALIZED (
     SELECT CustNum, Lines,
            Lines / 10000.0 - Discount / 100.0 * (Lines / 10000.0)
              + ShippingCharge / 10000.0 + Interest / 10000.0 + Tax / 10000.0
-    FROM (
-      SELECT CustNum, Discount, ShippingCharge, Interest, Tax,
-             ifnull((SELECT sum(Amount) FROM tb_trans WHERE tb_trans.InvoiceNum = tb_Invoice.InvoiceNum), 0) AS Lines
-      FROM tb_Invoice
-      WHERE "Date" > 29587 AND "Date" <= (SELECT tomorrow FROM calendar)
-    )
+    FROM invoices
   ),
   scaled(CustNum, Lines, Units, Rest, Product) AS (
     SELECT CustNum, Lines, CAST(Amount AS INTEGER), Amount - CAST(Amount AS INTEGER),
            (Amount - CAST(Amount AS INTEGER)) * 10000.0
-    FROM invoices
+    FROM totals
   ),
   owed(CustNum, Total) AS (
     SELECT CustNum, CASE

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Characters.h"
+#include "core/store/SqlWriting.h"
 #include "core/store/StoreError.h"
 
 namespace norvane {
@@ -36,7 +37,7 @@ ColumnReference Scope::Resolve(const syntax::Name& name) const {
 }
 
 std::string Scope::Sql(ColumnReference column) const {
-  return QuotedName(tables_[column.table]->name) + "." + QuotedName(NameOf(column));
+  return Concat({QuotedName(tables_[column.table]->name), ".", QuotedName(NameOf(column))});
 }
 
 std::vector<ColumnReference> Scope::KeyOrder() const {
@@ -89,12 +90,6 @@ std::vector<ColumnReference> Scope::Independent(std::vector<ColumnReference> col
     }
   }
   return columns;
-}
-
-std::string QuotedName(std::string_view name) {
-  std::string quoted = "\"";
-  for (const char c : name) quoted.append(c == '"' ? 2 : 1, c);
-  return quoted + '"';
 }
 
 }  // namespace norvane

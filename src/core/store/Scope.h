@@ -47,7 +47,4 @@ class Scope {
   std::vector<std::pair<ColumnReference, ColumnReference>> equalities_;
 };
 
-/// A name between double quotes, those inside it doubled.
-std::string QuotedName(std::string_view name);
-
 }  // namespace norvane

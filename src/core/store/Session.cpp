@@ -5,8 +5,8 @@
 #include "core/Characters.h"
 #include "core/store/Binder.h"
 #include "core/store/Parser.h"
-#include "core/store/Scope.h"
 #include "core/store/SqlFunctions.h"
+#include "core/store/SqlWriting.h"
 #include "core/store/StoreError.h"
 
 namespace norvane {
@@ -126,12 +126,12 @@ sqlite3_stmt* Connection::Session::StatementOf(const std::shared_ptr<const Trans
 
 void Connection::Session::UpdateRow(const std::string& table, const std::vector<Cell>& cells,
                                     const std::vector<Cell>& key) {
-  std::string sql = "UPDATE " + QuotedName(table);
+  std::string sql = Concat({"UPDATE ", QuotedName(table)});
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    sql += (i == 0 ? " SET " : ", ") + QuotedName(cells[i].column) + " = ?";
+    sql += Concat({i == 0 ? " SET " : ", ", QuotedName(cells[i].column), " = ?"});
   }
   for (std::size_t i = 0; i < key.size(); ++i) {
-    sql += (i == 0 ? " WHERE " : " AND ") + QuotedName(key[i].column) + " = ?";
+    sql += Concat({i == 0 ? " WHERE " : " AND ", QuotedName(key[i].column), " = ?"});
   }
   RunWithValues(sql, cells, key);
   if (sqlite3_changes(database_.get()) == 0) throw store_error::RowIsGone();
@@ -141,10 +141,10 @@ void Connection::Session::InsertRow(const std::string& table, const std::vector<
   std::string columns;
   std::string values;
   for (const Cell& cell : cells) {
-    columns += (columns.empty() ? "" : ", ") + QuotedName(cell.column);
+    columns += Concat({columns.empty() ? "" : ", ", QuotedName(cell.column)});
     values += values.empty() ? "?" : ", ?";
   }
-  RunWithValues("INSERT INTO " + QuotedName(table) + " (" + columns + ") VALUES (" + values + ")", cells, {});
+  RunWithValues(Concat({"INSERT INTO ", QuotedName(table), " (", columns, ") VALUES (", values, ")"}), cells, {});
 }
 
 void Connection::Session::RunWithValues(const std::string& sql, const std::vector<Cell>& first,

@@ -1,5 +1,7 @@
 #include "core/store/StoreError.h"
 
+#include "core/store/SqlWriting.h"
+
 namespace norvane::store_error {
 namespace {
 
@@ -8,7 +10,7 @@ RuntimeError Make(StoreErrorNumber number, const std::string& text) {
 }
 
 std::string Quoted(std::string_view text) {
-  return "'" + std::string(text) + "'";
+  return Concat({"'", text, "'"});
 }
 
 }  // namespace

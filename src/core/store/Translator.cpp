@@ -4,6 +4,7 @@
 
 #include "core/Characters.h"
 #include "core/store/Scope.h"
+#include "core/store/SqlWriting.h"
 #include "core/store/StoreError.h"
 #include "core/store/Typer.h"
 
@@ -24,6 +25,9 @@ class StatementTranslator {
 
  private:
   void Append(std::string_view text) { result_.sql += text; }
+  void Append(std::initializer_list<std::string_view> parts) {
+    for (const std::string_view part : parts) Append(part);
+  }
 
   const TableSchema& Find(const Table& table) const {
     const TableSchema* schema = catalog_.Find(table.name);
@@ -53,7 +57,7 @@ class StatementTranslator {
     for (const ExpressionPtr& each : select.groupBy) groupColumns_.push_back(GroupColumn(*each));
     Append("SELECT ");
     AppendItems(select);
-    Append(" FROM " + from);
+    Append({" FROM ", from});
     AppendConditions(select);
     AppendGrouping(select);
     AppendOrder(select);
@@ -73,8 +77,8 @@ class StatementTranslator {
     if (!join.left) LearnEqualities(*join.on);
     const std::string first = From(*join.first);
     const bool nested = std::holds_alternative<Join>(join.second->node);
-    const std::string second = nested ? "(" + From(*join.second) + ")" : From(*join.second);
-    return first + (join.left ? " LEFT JOIN " : " JOIN ") + second + " ON " + typer_.Condition(*join.on);
+    const std::string second = nested ? Concat({"(", From(*join.second), ")"}) : From(*join.second);
+    return Concat({first, join.left ? " LEFT JOIN " : " JOIN ", second, " ON ", typer_.Condition(*join.on)});
   }
 
   void LearnEqualities(const Expression& condition) {
@@ -131,14 +135,13 @@ class StatementTranslator {
     const auto* name = std::get_if<Name>(&item.expression->node);
     const std::string column = name ? scope_.NameOf(scope_.Resolve(*name)) : "";
     // What has no name is numbered as the platform does.
-    std::string title = name ? column : "Expr" + std::to_string(1000 + result_.columns.size());
+    std::string title = name ? column : Concat({"Expr", std::to_string(1000 + result_.columns.size())});
     if (!item.alias.empty()) title = item.alias;
     AppendColumn(typed.sql, {std::move(title), typed.type}, column);
   }
 
   void AppendColumn(const std::string& sql, ResultColumn column, const std::string& tableColumn) {
-    Append(result_.columns.empty() ? "" : ", ");
-    Append(sql);
+    Append({result_.columns.empty() ? "" : ", ", sql});
     result_.columns.push_back(std::move(column));
     result_.tableColumns.push_back(tableColumn);
   }
@@ -168,16 +171,14 @@ class StatementTranslator {
   void AppendConditions(const Select& select) {
     std::string_view lead = " WHERE ";
     if (select.where) {
-      Append(lead);
-      Append(typer_.Condition(*select.where));
+      Append({lead, typer_.Condition(*select.where)});
       lead = " AND ";
     }
     if (!select.having) return;
     if (select.groupBy.empty()) throw store_error::SyntaxErrorIn("HAVING clause");
     CheckGrouping(*select.having);
     if (HasAggregate(*select.having)) return;
-    Append(lead);
-    Append(typer_.Condition(*select.having));
+    Append({lead, typer_.Condition(*select.having)});
   }
 
   void AppendGrouping(const Select& select) {
@@ -185,13 +186,12 @@ class StatementTranslator {
     groupKey_ = scope_.Independent(groupColumns_);
     std::string_view lead = " GROUP BY ";
     for (const ColumnReference column : groupKey_) {
-      Append(lead);
-      Append(scope_.Sql(column));
+      Append({lead, scope_.Sql(column)});
       lead = ", ";
     }
     if (!select.having || !HasAggregate(*select.having)) return;
     typer_.AllowAggregates(true);
-    Append(" HAVING " + typer_.Condition(*select.having));
+    Append({" HAVING ", typer_.Condition(*select.having)});
     typer_.AllowAggregates(false);
   }
 
@@ -206,7 +206,7 @@ class StatementTranslator {
       if (std::holds_alternative<Constant>(item.expression->node)) throw store_error::SyntaxErrorIn("ORDER BY clause");
       const Typed typed = typer_.Result(*item.expression);
       plain.push_back(typed.sql);
-      terms.push_back(Sortable(typed.sql, typed.type) + (item.descending ? " DESC" : ""));
+      terms.push_back(Concat({Sortable(typed.sql, typed.type), item.descending ? " DESC" : ""}));
     }
     typer_.AllowAggregates(false);
     for (const ColumnReference column : grouped_ ? groupKey_ : scope_.KeyOrder()) {
@@ -214,7 +214,7 @@ class StatementTranslator {
       if (std::find(plain.begin(), plain.end(), sql) != plain.end()) continue;
       terms.push_back(Sortable(sql, scope_.TypeOf(column)));
     }
-    for (std::size_t i = 0; i < terms.size(); ++i) Append((i == 0 ? " ORDER BY " : ", ") + terms[i]);
+    for (std::size_t i = 0; i < terms.size(); ++i) Append({i == 0 ? " ORDER BY " : ", ", terms[i]});
   }
 
   static std::string Sortable(const std::string& sql, FieldType type) {
@@ -245,24 +245,23 @@ class StatementTranslator {
     for (std::size_t i = 0; i < insert.columns.size(); ++i) {
       const TableSchema::Column& column = ColumnToChange(table, insert.columns[i]);
       const std::string value = typer_.Stored(*insert.values[i], column.type);
-      columns += (i == 0 ? "" : ", ") + QuotedName(column.name);
-      values += (i == 0 ? "" : ", ") + value;
+      columns += Concat({i == 0 ? "" : ", ", QuotedName(column.name)});
+      values += Concat({i == 0 ? "" : ", ", value});
       stored[&column - table.columns.data()] = value;
     }
     for (const std::size_t column : table.key) {
       if (stored[column] == "NULL") throw store_error::NullKey();
     }
-    Append("INSERT INTO " + QuotedName(table.name) + " (" + columns + ") SELECT " + values);
+    Append({"INSERT INTO ", QuotedName(table.name), " (", columns, ") SELECT ", values});
     if (table.HasTextKey()) AppendKeyGuard(table, stored);
   }
 
   /// The key's index knows capitals of plain letters only; this knows those with accents.
   void AppendKeyGuard(const TableSchema& table, const std::vector<std::string>& stored) {
-    Append(" WHERE NOT EXISTS (SELECT 1 FROM " + QuotedName(table.name));
+    Append({" WHERE NOT EXISTS (SELECT 1 FROM ", QuotedName(table.name)});
     std::string_view lead = " WHERE ";
     for (const std::size_t column : table.key) {
-      Append(lead);
-      Append(FoldedSql(QuotedName(table.columns[column].name)) + " = " + FoldedSql(stored[column]));
+      Append({lead, FoldedSql(QuotedName(table.columns[column].name)), " = ", FoldedSql(stored[column])});
       lead = " AND ";
     }
     Append(")");
@@ -271,25 +270,24 @@ class StatementTranslator {
 
   void Translate(const Delete& deletion) {
     const TableSchema& table = FindToChange(deletion.table);
-    Append("DELETE FROM " + QuotedName(table.name));
+    Append({"DELETE FROM ", QuotedName(table.name)});
     AppendWhere(deletion.where);
   }
 
   void Translate(const Update& update) {
     const TableSchema& table = FindToChange(update.table);
-    Append("UPDATE " + QuotedName(table.name));
+    Append({"UPDATE ", QuotedName(table.name)});
     std::string_view lead = " SET ";
     for (const Assignment& assignment : update.assignments) {
       const TableSchema::Column& column = ColumnToChange(table, assignment.column);
-      Append(lead);
-      Append(QuotedName(column.name) + " = " + typer_.Stored(*assignment.value, column.type));
+      Append({lead, QuotedName(column.name), " = ", typer_.Stored(*assignment.value, column.type)});
       lead = ", ";
     }
     AppendWhere(update.where);
   }
 
   void AppendWhere(const ExpressionPtr& where) {
-    if (where) Append(" WHERE " + typer_.Condition(*where));
+    if (where) Append({" WHERE ", typer_.Condition(*where)});
   }
 
   const Catalog& catalog_;

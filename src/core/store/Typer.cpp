@@ -1,6 +1,7 @@
 #include "core/store/Typer.h"
 
 #include "core/store/SqlFunctions.h"
+#include "core/store/SqlWriting.h"
 #include "core/store/StoreError.h"
 #include "core/store/TextFolding.h"
 
@@ -72,13 +73,13 @@ std::string_view Spelling(BinaryOperator op) {
 }
 
 std::string Parenthesised(std::string_view a, std::string_view op, std::string_view b) {
-  return std::string("(").append(a).append(op).append(b).append(")");
+  return Concat({"(", a, op, b, ")"});
 }
 
 }  // namespace
 
 std::string FoldedSql(const std::string& sql) {
-  return std::string(kFoldFunction) + "(" + sql + ")";
+  return Concat({kFoldFunction, "(", sql, ")"});
 }
 
 bool HasAggregate(const Expression& expression) {
@@ -110,7 +111,7 @@ std::string Typer::Stored(const Expression& expression, FieldType column) {
   if (typed.kind == Typed::Kind::Literal) return Bind(typed.literal, BindingFor(column));
   if (typed.kind == Typed::Kind::Null || typed.type == column) return typed.sql;
   if (typed.type != FieldType::Boolean) throw store_error::TypeMismatchInCriteria();
-  if (column == FieldType::Currency) return "(" + typed.sql + " * 10000)";
+  if (column == FieldType::Currency) return Parenthesised(typed.sql, " * ", "10000");
   return typed.sql;
 }
 
@@ -128,7 +129,7 @@ Typed Typer::Translate(const Expression& expression) {
   }
   if (const auto* binary = std::get_if<Binary>(&expression.node)) return TranslateBinary(*binary);
   if (const auto* inverse = std::get_if<Not>(&expression.node)) {
-    return Sql("(NOT " + Condition(*inverse->operand) + ")", FieldType::Boolean);
+    return Sql(Concat({"(NOT ", Condition(*inverse->operand), ")"}), FieldType::Boolean);
   }
   return TranslateFunction(expression, std::get<Function>(expression.node));
 }
@@ -159,7 +160,7 @@ std::string Typer::CompareTexts(std::string_view op, const Typed& left, const Ty
   const bool equality = op == " = " || op == " <> ";
   const std::string column = Plain(left);
   // No accented text equals one without accents, so the column's own order decides, and its index is used.
-  if (equality && IsAsciiLiteral(right)) return Parenthesised(column, op, Plain(right) + " COLLATE NOCASE");
+  if (equality && IsAsciiLiteral(right)) return Concat({"(", column, op, Plain(right), " COLLATE NOCASE)"});
   return Parenthesised(FoldedSql(column), op, FoldedSql(Plain(right)));
 }
 
@@ -171,20 +172,20 @@ std::string Typer::CompareNumbers(std::string_view op, const Typed& left, const 
 
 Typed Typer::Like(const Typed& left, const Typed& right) {
   const std::string text = AsText(left);
-  return Sql(std::string(kLikeFunction) + "(" + text + ", " + AsText(right) + ")", FieldType::Boolean);
+  return Sql(Concat({kLikeFunction, "(", text, ", ", AsText(right), ")"}), FieldType::Boolean);
 }
 
 Typed Typer::JoinTexts(const Typed& left, const Typed& right) {
   const std::string first = AsText(left);
-  return Sql(Parenthesised("ifnull(" + first + ", '')", " || ", "ifnull(" + AsText(right) + ", '')"), FieldType::Text);
+  return Sql(Concat({"(ifnull(", first, ", '') || ifnull(", AsText(right), ", ''))"}), FieldType::Text);
 }
 
 Typed Typer::TranslateFunction(const Expression& expression, const Function& function) {
   switch (function.name) {
     case FunctionName::Val:
-      return Sql(std::string(kValFunction) + "(" + AsText(Translate(*function.argument)) + ")", FieldType::Double);
+      return Sql(Concat({kValFunction, "(", AsText(Translate(*function.argument)), ")"}), FieldType::Double);
     case FunctionName::IsNull:
-      return Sql("(" + Plain(Translate(*function.argument)) + " IS NULL)", FieldType::Boolean);
+      return Sql(Concat({"(", Plain(Translate(*function.argument)), " IS NULL)"}), FieldType::Boolean);
     default:
       return Aggregate(expression, function);
   }
@@ -197,12 +198,12 @@ Typed Typer::Aggregate(const Expression& expression, const Function& function) {
   aggregatesAllowed_ = true;
   const bool sum = function.name == FunctionName::Sum;
   if (sum && IsText(argument)) throw store_error::TypeMismatchInCriteria();
-  return Sql((sum ? "sum(" : "max(") + Plain(argument) + ")", sum ? TypeOfSum(argument.type) : argument.type);
+  return Sql(Concat({sum ? "sum(" : "max(", Plain(argument), ")"}), sum ? TypeOfSum(argument.type) : argument.type);
 }
 
 std::string Typer::Bind(const Constant& literal, BindAs as) {
   bindings_.push_back({literal.literal, literal.negative, as});
-  return "?" + std::to_string(bindings_.size());
+  return Concat({"?", std::to_string(bindings_.size())});
 }
 
 std::string Typer::Plain(const Typed& typed) {
@@ -214,13 +215,14 @@ std::string Typer::Plain(const Typed& typed) {
 /// A number as money is kept.
 std::string Typer::Scaled(const Typed& typed) {
   if (IsMoney(typed)) return typed.sql;
-  return typed.kind == Typed::Kind::Literal ? Bind(typed.literal, BindAs::Money) : "(" + typed.sql + " * 10000)";
+  return typed.kind == Typed::Kind::Literal ? Bind(typed.literal, BindAs::Money)
+                                            : Parenthesised(typed.sql, " * ", "10000");
 }
 
 std::string Typer::AsText(const Typed& typed) {
   if (typed.kind == Typed::Kind::Literal) return Bind(typed.literal, BindAs::Text);
   if (IsText(typed) || typed.kind == Typed::Kind::Null) return typed.sql;
-  return std::string(kTextFunction) + "(" + typed.sql + ", " + std::to_string(static_cast<int>(typed.type)) + ")";
+  return Concat({kTextFunction, "(", typed.sql, ", ", std::to_string(static_cast<int>(typed.type)), ")"});
 }
 
 bool Typer::IsAsciiLiteral(const Typed& typed) const {

@@ -22,6 +22,12 @@ std::string BadDate(const std::string& expression) {
   return "-2147217900 Syntax error in date in query expression '" + expression + "'.";
 }
 
+std::string Repeated(const std::string& text, int times) {
+  std::string result;
+  for (int i = 0; i < times; ++i) result += text;
+  return result;
+}
+
 struct Refusal {
   std::string statement;
   std::string error;
@@ -104,11 +110,20 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
       {"insert into tb_Inventory (ItemNum,) values (1)", kInsert},
       {"insert into tb_Inventory values (1)", kInsert},
 
+      {"insert into tb_Inventory (ItemNum, Par, par) values (1,2,3)",
+       "-2147217900 Duplicate output destination 'par'."},
+
       // Keys.
       {"insert into tb_InvCategories (CatNum, Description) values (1, 'again')", kDuplicate},
       {"insert into tb_PaymentTypes (type) values ('ZAHLUNG \xC3\xBC')", kDuplicate},
       {"insert into tb_InvCategories (Description) values ('no key')",
        "-2147467259 Index or primary key cannot contain a Null value."},
+
+      // Too much of anything.
+      {"select *,*,*,*,*,* from tb_Client", "-2147217900 Too many fields defined."},
+      {"select * from tb_Client where " + std::string(1'000, '(') + "1", "-2147217900 Query is too complex."},
+      {"select * from tb_Client where " + Repeated("not ", 1'000) + "1", "-2147217900 Query is too complex."},
+      {"select * from tb_Client where 1" + Repeated(" and 1", 1'000), "-2147217900 Query is too complex."},
 
       // What only can be read, and what cannot be summed.
       {"delete * from ClientBals", kNotUpdatable},

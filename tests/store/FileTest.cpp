@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
+#include "core/store/Sqlite.h"
 #include "store/StoreTest.h"
 
 namespace norvane {
@@ -109,6 +110,44 @@ TEST_F(FileTest, LeavesOneFileAndCountsItsConnections) {
   EXPECT_THAT(Files(), testing::ElementsAre("norvane.mdb"));
   EXPECT_EQ(database.Cell("pragma integrity_check"), "ok");
   EXPECT_EQ(database.Cell("pragma journal_mode"), "delete");
+}
+
+/// A program that ended in the middle of a change leaves a journal, from which the first reader restores the file.
+TEST_F(FileTest, RollsBackWhatACrashLeft) {
+  const fs::path crashed = database.Folder() / "crashed.mdb";
+  {
+    sqlite3* writer = nullptr;
+    ASSERT_EQ(sqlite3_open(database.File().c_str(), &writer), SQLITE_OK);
+    const char* halfDone =
+        "pragma cache_size = 1; begin; delete from tb_ExpenseTypes;"
+        "with recursive n(i) as (select 1 union all select i + 1 from n where i < 2000)"
+        "insert into tb_InvCategories select i + 1, 'half done' from n";
+    ASSERT_EQ(sqlite3_exec(writer, halfDone, nullptr, nullptr, nullptr), SQLITE_OK);
+    fs::copy_file(database.File(), crashed);
+    fs::copy_file(database.File().string() + "-journal", crashed.string() + "-journal");
+    sqlite3_close(writer);
+  }
+  auto connection = ConnectionTo(engine, crashed.string());
+  connection->Open();
+  Recordset rows;
+  rows.Open("select type from tb_ExpenseTypes", *connection, CursorType::ForwardOnly);
+  EXPECT_EQ(rows.RecordCount(), 8);
+  EXPECT_FALSE(fs::exists(crashed.string() + "-journal"));
+}
+
+TEST_F(FileTest, TellsAFullDiskApart) {
+  EXPECT_EQ(norvane::ErrorOf(SQLITE_FULL, "f").Number(), 61);
+  EXPECT_EQ(norvane::ErrorOf(SQLITE_IOERR_READ, "f").Text(), "Disk or network error.");
+}
+
+TEST_F(FileTest, DeliversRowsThatEveryScreenNeeds) {
+  for (const auto& [table, rows] : {std::pair{"tb_InvCategories", "1"},
+                                    {"tb_PaymentTypes", "5"},
+                                    {"tb_ExpenseTypes", "8"},
+                                    {"tb_Shipping", "4"},
+                                    {"tb_Company", "0"}}) {
+    EXPECT_EQ(database.Cell(std::string("select count(*) from ") + table), rows) << table;
+  }
 }
 
 TEST_F(FileTest, LearnsTheTablesAnewWhenTheyChange) {

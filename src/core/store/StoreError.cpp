@@ -96,6 +96,14 @@ RuntimeError IncompleteClause() {
   return Make(StoreErrorNumber::Syntax, "Syntax error in query.  Incomplete query clause.");
 }
 
+RuntimeError TooManyFields() {
+  return Make(StoreErrorNumber::Syntax, "Too many fields defined.");
+}
+
+RuntimeError DuplicateDestination(std::string_view column) {
+  return Make(StoreErrorNumber::Syntax, Concat({"Duplicate output destination ", Quoted(column), "."}));
+}
+
 RuntimeError AmbiguousName(std::string_view name) {
   return Make(StoreErrorNumber::Syntax, "The specified field " + Quoted(name) +
                                             " could refer to more than one table listed in the FROM clause of your "

@@ -49,6 +49,8 @@ RuntimeError ValueCountDiffers();
 RuntimeError NotAStatement();
 RuntimeError TooComplex();
 RuntimeError IncompleteClause();
+RuntimeError TooManyFields();
+RuntimeError DuplicateDestination(std::string_view column);
 RuntimeError AmbiguousName(std::string_view name);
 RuntimeError AggregateNotAllowed(std::string_view expression);
 RuntimeError UndefinedFunction(std::string_view name);

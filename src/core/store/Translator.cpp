@@ -1,6 +1,7 @@
 #include "core/store/Translator.h"
 
 #include <algorithm>
+#include <set>
 
 #include "core/Characters.h"
 #include "core/store/Scope.h"
@@ -12,6 +13,8 @@ namespace norvane {
 namespace {
 
 using namespace syntax;
+
+constexpr std::size_t kMostFields = 255;
 
 class StatementTranslator {
  public:
@@ -42,9 +45,11 @@ class StatementTranslator {
     return schema;
   }
 
-  static const TableSchema::Column& ColumnToChange(const TableSchema& table, std::string_view name) {
+  /// A column that the statement has not named before.
+  const TableSchema::Column& ColumnToChange(const TableSchema& table, std::string_view name) {
     const int column = table.Find(name);
     if (column < 0) throw store_error::MissingParameter();
+    if (!changed_.insert(column).second) throw store_error::DuplicateDestination(name);
     return table.columns[column];
   }
 
@@ -141,6 +146,7 @@ class StatementTranslator {
   }
 
   void AppendColumn(const std::string& sql, ResultColumn column, const std::string& tableColumn) {
+    if (result_.columns.size() == kMostFields) throw store_error::TooManyFields();
     Append({result_.columns.empty() ? "" : ", ", sql});
     result_.columns.push_back(std::move(column));
     result_.tableColumns.push_back(tableColumn);
@@ -294,6 +300,7 @@ class StatementTranslator {
   Scope scope_;
   Translation result_;
   Typer typer_;
+  std::set<int> changed_;
   bool grouped_ = false;
   std::vector<ColumnReference> groupColumns_;
   std::vector<ColumnReference> groupKey_;

@@ -22,6 +22,7 @@ namespace {
 constexpr Twips kFrameWidth = 120;
 constexpr Twips kFrameHeight = 405;
 constexpr Twips kMenuHeight = 285;
+constexpr int kNoticeMargin = 16;
 
 }  // namespace
 
@@ -84,6 +85,8 @@ void FormWindow::BuildPage(const WidgetFactory& factory, FocusBridge& focus) {
     binding.focused = [&focus](Binding& focused) { focus.Give(focused); };
   });
   builder.Fill(*page, form_->Layout());
+  if (form_->Style().notice)
+    page->layout()->setContentsMargins(kNoticeMargin, kNoticeMargin, kNoticeMargin, kNoticeMargin);
   setCentralWidget(page);
   if (builder.MetStatusBar()) setStatusBar(builder.MetStatusBar());
   SetTabOrder();

@@ -187,7 +187,7 @@ void GridView::MeasureColumns() {
     }
     const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
-    needs_[static_cast<std::size_t>(col)] = std::min(widest + 2 * GridCellPainter::kPadding + 2 + helper, kWidestText);
+    needs_[static_cast<std::size_t>(col)] = std::min(widest + 2 * GridCellPainter::kPadding + 1 + helper, kWidestText);
   }
 }
 

@@ -20,7 +20,7 @@ namespace {
 using layout::Kind;
 using layout::Node;
 
-constexpr int kMargin = 10;
+constexpr int kMargin = 8;
 constexpr int kSpacing = 8;
 constexpr int kBetweenPairs = 14;
 
@@ -34,6 +34,19 @@ bool IsBand(const Node& node) {
   if (node.kind == Kind::Strip) return true;
   return node.kind == Kind::Group && IsPlain(node) && node.children.size() == 1 &&
          node.children.front().kind == Kind::Strip;
+}
+
+/// The characters that a text box asks for, with or without its label; 0 for anything else.
+int LengthOf(const Node& node) {
+  if (node.kind == Kind::Field) return LengthOf(node.children.front());
+  const auto* box = node.kind == Kind::Control ? dynamic_cast<const TextBox*>(node.control) : nullptr;
+  return box ? box->Style().characters : 0;
+}
+
+/// A row of text boxes alone is divided by how much each is to hold: a state takes less than a city.
+bool SharesRoomByLength(const Node& row) {
+  const auto isPlainText = [](const Node& child) { return LengthOf(child) > 0 && child.stretch == 0; };
+  return std::all_of(row.children.begin(), row.children.end(), isPlainText);
 }
 
 QString WithoutMnemonic(QString caption) {
@@ -68,7 +81,7 @@ void LayoutBuilder::Fill(QWidget& page, const Node& root) {
       inner->setSpacing(kSpacing);
       outer->addLayout(inner, 1);
     }
-    AddToBox(*inner, node, page);
+    AddToBox(*inner, node, page, node.stretch);
   };
   if (root.kind != Kind::Column) {
     addInner(root);
@@ -76,7 +89,7 @@ void LayoutBuilder::Fill(QWidget& page, const Node& root) {
   }
   for (const auto& child : root.children) {
     if (IsBand(child)) {
-      outer->addWidget(BuildBand(child, page));
+      outer->addWidget(BuildBand(child, page, outer->count() == 0 ? "top" : "bottom"));
       inner = nullptr;
     } else if (dynamic_cast<StatusBar*>(child.control)) {
       Build(child, page);
@@ -87,10 +100,10 @@ void LayoutBuilder::Fill(QWidget& page, const Node& root) {
   if (inner && !(inner->expandingDirections() & Qt::Vertical)) inner->addStretch();
 }
 
-QWidget* LayoutBuilder::BuildBand(const Node& node, QWidget& page) {
+QWidget* LayoutBuilder::BuildBand(const Node& node, QWidget& page, const char* edge) {
   QWidget* band = Build(node, page).widget;
-  band->setProperty("strip", true);
-  band->layout()->setContentsMargins(kMargin - 4, 5, kMargin - 4, 5);
+  band->setProperty("strip", edge);
+  band->layout()->setContentsMargins(kMargin - 2, 5, kMargin - 2, 5);
   band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   return band;
 }
@@ -137,18 +150,19 @@ LayoutBuilder::Piece LayoutBuilder::BuildBox(const Node& node, QWidget& page, Qt
   const bool across = orientation == Qt::Horizontal;
   auto* box = new QBoxLayout(across ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   box->setSpacing(kSpacing);
-  for (const auto& child : node.children) AddToBox(*box, child, page);
+  const bool sharesRoom = across && SharesRoomByLength(node);
+  for (const auto& child : node.children) AddToBox(*box, child, page, sharesRoom ? LengthOf(child) : child.stretch);
   if (!(box->expandingDirections() & orientation)) box->addStretch();
   return {nullptr, box};
 }
 
-void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page) {
+void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page, int stretch) {
   if (node.kind == Kind::Space) return box.addStretch(std::max(1, node.stretch));
   const bool across = box.direction() == QBoxLayout::LeftToRight;
   const Piece piece =
       node.kind == Kind::Line ? BuildLine(page, across ? Qt::Vertical : Qt::Horizontal) : Build(node, page);
-  if (piece.widget) box.addWidget(piece.widget, node.stretch);
-  if (piece.layout) box.addLayout(piece.layout, node.stretch);
+  if (piece.widget) box.addWidget(piece.widget, stretch);
+  if (piece.layout) box.addLayout(piece.layout, stretch);
 }
 
 LayoutBuilder::Piece LayoutBuilder::BuildStrip(const Node& node, QWidget& page) {
@@ -255,7 +269,7 @@ LayoutBuilder::Piece LayoutBuilder::BuildTabs(const Node& node, QWidget& page) {
     auto* box = new QVBoxLayout(leaf);
     box->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     box->setSpacing(kSpacing);
-    for (const auto& child : tab.children) AddToBox(*box, child, *leaf);
+    for (const auto& child : tab.children) AddToBox(*box, child, *leaf, child.stretch);
     if (!(box->expandingDirections() & Qt::Vertical)) box->addStretch();
     const QSignalBlocker quiet(tabs);
     tabs->addTab(leaf, ToQt(tab.caption));

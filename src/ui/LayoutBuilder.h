@@ -39,9 +39,9 @@ class LayoutBuilder {
   Piece BuildGroup(const layout::Node& node, QWidget& page);
   Piece BuildTabs(const layout::Node& node, QWidget& page);
   Piece BuildLine(QWidget& page, Qt::Orientation orientation);
-  QWidget* BuildBand(const layout::Node& node, QWidget& page);
+  QWidget* BuildBand(const layout::Node& node, QWidget& page, const char* edge);
 
-  void AddToBox(QBoxLayout& box, const layout::Node& node, QWidget& page);
+  void AddToBox(QBoxLayout& box, const layout::Node& node, QWidget& page, int stretch);
   void AddToGrid(QGridLayout& grid, const layout::Node& node, QWidget& page, int row, int column);
   QWidget* LabelFor(const layout::Node& field, QWidget& page, const Piece& content);
   Binding* BindFrame(const layout::Node& group, QWidget& widget);

@@ -52,7 +52,7 @@ QToolButton* PreviewWidget::AddTool(const char* icon, const QString& name, const
 }
 
 void PreviewWidget::BuildBar() {
-  bar_->setProperty("strip", true);
+  bar_->setProperty("strip", "top");
   auto* strip = new StripLayout(bar_);
   strip->setContentsMargins(6, 3, 6, 3);
   first_ = AddTool("first", "First Page", [this] { canvas_->GoToPage(1); });

@@ -27,8 +27,8 @@ class Program {
 
   Desktop& desktop;
   const Conversions convert;
+  Engine engine;  // before the globals, whose objects may hold a connection to the last
   Globals globals;
-  Engine engine;
   Workspace workspace{globals, engine, desktop, desktop, convert, {}};
   Focus focus;
   ScreenTable screens{*this};

@@ -1,43 +1,30 @@
-#include <algorithm>
-
+#include "core/Characters.h"
 #include "data/Statement.h"
 #include "data/Vendor.h"
 
 namespace norvane {
-
-namespace {
-
-/// The names of fields are the program's own words, so plain letters are all there is to fold.
-std::string UpperCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](unsigned char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-  return text;
-}
-
-}  // namespace
 
 Object<Recordset> Vendor::LedgerEntriesAll() {
   return List("Vendor.LedgerEntriesAll -", "SELECT * from tb_GL order by [date], checknum");
 }
 
 Object<Recordset> Vendor::LedgerEntries(const std::string& field, const std::string& value, Date since) {
-  return Result("Vendor.LedgerEntries -", [&] { return Detached(LedgerSelection(UpperCase(field), value, since)); });
+  return Result("Vendor.LedgerEntries -", [&] { return Detached(LedgerSelection(field, value, since)); });
 }
 
 // Selections show payments only, but for DEPOSIT, which shows all deposits of all times. CLEARED compares a Boolean
 // column with a quoted word.
 std::string Vendor::LedgerSelection(const std::string& field, const std::string& value, Date since) const {
-  if (field == "DEPOSIT") return "SELECT * from tb_GL where deposit > 0 order by [date]";
+  const auto isBy = [&](std::string_view name) { return EqualNoCase(field, name); };
+  if (isBy("DEPOSIT")) return "SELECT * from tb_GL where deposit > 0 order by [date]";
   std::string condition;
-  if (field == "VENDOR" && UpperCase(value) == "ALL") {
-    condition = "";
-  } else if (field == "VENDOR") {
-    condition = sql::Statement("Vendor = '", value, "' and ");
-  } else if (field == "CATEGORY") {
+  if (isBy("VENDOR")) {
+    if (!EqualNoCase(value, "ALL")) condition = sql::Statement("Vendor = '", value, "' and ");
+  } else if (isBy("CATEGORY")) {
     condition = sql::Statement("Category = '", value, "' and ");
-  } else if (field == "NOTES") {
+  } else if (isBy("NOTES")) {
     condition = sql::Statement("Notes = '", value, "' and ");
-  } else if (field == "CLEARED") {
+  } else if (isBy("CLEARED")) {
     condition = sql::Statement("cleared = '", workspace_.convert.ToBoolean(value), "' and ");
   } else {
     return "";

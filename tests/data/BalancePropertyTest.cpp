@@ -220,6 +220,7 @@ TEST_F(BalancePropertyTest, TheSavedBalancesAreThoseOfEachClientAtAnyDay) {
     Date now;
     ASSERT_EQ(client->ClientBal(custNum, now).TenThousandths(), saved[custNum]) << custNum;
     ASSERT_EQ(saved[custNum], books->Balance(custNum, today + 1)) << custNum;
+    if (custNum % 5 != 0) continue;
     Date then(RandomBooks::kFirstDay + custNum % (today - RandomBooks::kFirstDay));
     ASSERT_EQ(client->ClientBal(custNum, then).TenThousandths(), books->Balance(custNum, then.Day())) << custNum;
   }

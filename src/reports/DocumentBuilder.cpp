@@ -14,6 +14,7 @@ void DocumentBuilder::Clear() {
   open_ = false;
   alignment_ = Alignment::Left;
   font_ = kBodyFont;
+  ++revision_;
 }
 
 void DocumentBuilder::SetMargins(std::string_view left, std::string_view right, std::string_view top,
@@ -31,6 +32,7 @@ void DocumentBuilder::EndDocument() {
   Open();
   table_.reset();
   open_ = false;
+  Ended();
 }
 
 void DocumentBuilder::NewPage() {
@@ -100,12 +102,13 @@ void DocumentBuilder::EndTable() {
   Table& table = OpenTable();
   table.font = font_;
   table.alignment = alignment_;
-  if (!table.columns.empty()) document_->elements.emplace_back(std::move(table));
+  if (!table.columns.empty()) Open().elements.emplace_back(std::move(table));
   table_.reset();
 }
 
 Document& DocumentBuilder::Open() {
   if (!open_) Raise(ErrorNumber::InvalidProcedureCall);
+  ++revision_;
   return *document_;
 }
 

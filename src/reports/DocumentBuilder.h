@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -13,13 +14,13 @@ namespace norvane::pages {
 /// is open, and what belongs to a table while none is.
 class DocumentBuilder {
  public:
+  virtual ~DocumentBuilder() = default;
+
   // Set-up; stays for the documents that follow.
   /// Discards the document and what is set for its text.
   void Clear();
   /// 1 is Letter portrait, which all pages are.
   void SetPageSetting(int setting) { pageSetting_ = setting; }
-  /// The preview's scale in percent.
-  void SetZoom(double percent) { zoom_ = percent; }
   void SetMargins(std::string_view left, std::string_view right, std::string_view top, std::string_view bottom);
 
   /// Opens the first page of a new document, in the body font, left aligned, without header and footer. Whatever stood
@@ -63,21 +64,26 @@ class DocumentBuilder {
   /// Nothing before the first start and after a clear. An unfinished document holds what was written so far.
   const std::optional<Document>& Recorded() const { return document_; }
   int PageSetting() const { return pageSetting_; }
-  double Zoom() const { return zoom_; }
+
+ protected:
+  /// Grows with everything that is recorded or discarded.
+  std::uint64_t Revision() const { return revision_; }
 
  private:
+  /// The document was closed.
+  virtual void Ended() {}
   Document& Open();
   Table& OpenTable();
   TableRow* Row(int row);
 
   int pageSetting_ = 1;
-  double zoom_ = 100.0;
   Margins margins_;
   Alignment alignment_ = Alignment::Left;
   Font font_ = kBodyFont;
   std::optional<Document> document_;
   std::optional<Table> table_;
   bool open_ = false;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace norvane::pages

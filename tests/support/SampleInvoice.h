@@ -64,7 +64,6 @@ inline void WriteTotals(DocumentBuilder& report) {
 /// Records an invoice in the steps in which the invoice screen does.
 inline void WriteInvoice(DocumentBuilder& report, const SampleInvoice& invoice) {
   report.SetPageSetting(1);
-  report.SetZoom(100.0);
   report.SetMargins("0.5in", "0.5in", "0.5in", "0.5in");
   report.StartDocument();
   report.SetHeader("||Invoice #1042");

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "core/Object.h"
+#include "reports/DocumentBuilder.h"
+
+namespace norvane {
+
+class Client;
+class cSetup;
+
+// The blocks that stand alike at the head and foot of invoices, receipts and statements.
+
+inline constexpr const char* kThanksFooter = "|We appreciate your business!|";
+
+/// What a page tells of the company. Web site, phone and fax bear their prefix, or are empty.
+struct CompanyHeading {
+  std::string Name, Address1, City, State, ZipCode;
+  std::string WebSite, Phone, Fax;
+};
+
+/// Reads the company's row. Raises 91 if there is no object.
+CompanyHeading TakeCompanyHeading(const Object<cSetup>& setup);
+/// Two centred boxes at the head of the page, the first line bold; then a blank line, and left alignment.
+void WriteCompanyHeading(pages::DocumentBuilder& document, const CompanyHeading& company, const std::string& firstLine);
+
+struct Address {
+  const std::string &fname, &lname, &address1, &city, &state, &zipCode, &homePhone;
+};
+
+/// A bold title and the address in a box below it, `left` being their left edge.
+void WriteAddress(pages::DocumentBuilder& document, const char* title, const char* left, const Address& address);
+/// "Bill To:" with the client's billing address.
+void WriteBillTo(pages::DocumentBuilder& document, const Client& client);
+
+}  // namespace norvane

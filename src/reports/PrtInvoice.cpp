@@ -1,0 +1,134 @@
+#include "reports/PrtInvoice.h"
+
+#include <cmath>
+
+#include "core/store/Recordset.h"
+#include "data/Client.h"
+#include "data/Invoice.h"
+#include "reports/Headings.h"
+#include "reports/ReportTable.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr TableKind kOrderTable{pages::TableBorder::Grid, "^1in|^3in|^2in|^1.5in;", "Date|Ship Via|Sales Rep|Terms;"};
+constexpr TableKind kLineTable{pages::TableBorder::Grid, "^0.75in|^0.75in|^0.75in|<3in|>1.125in|>1.125in;",
+                               "Qty|BackOrd|Item#|Description|Charge|Total;"};
+
+}  // namespace
+
+struct PrtInvoice::Order {
+  std::string description;
+  Date InvoiceDate;
+  std::string SalesRep, ShippingType, Terms;
+  double Discount = 0;  ///< percent
+  Currency ShippingCharge, Tax, Interest;
+  Object<Recordset> lines;
+};
+
+PrtInvoice::PrtInvoice(Program& host) : VSInvoiceReport(host, kName, "Print Invoice") {
+  SetReportLayout();
+}
+
+void PrtInvoice::Form_Load() {
+  Build("PrtInvoice.Form_Load -", [this] {
+    const std::string number = std::to_string(globals.CurInvoiceNum);
+    VSInvoice.SetTitle("Invoice " + number);
+    const CompanyHeading company = TakeCompanyHeading(globals.oSetup);
+    ReadClient();
+    const Order order = ReadOrder();
+    StartReport();
+    VSInvoice.SetHeader("||Invoice #" + number);
+    WriteCompanyHeading(VSInvoice, company, "Remit to: " + company.Name);
+    WriteBillTo(VSInvoice, *globals.oClient);
+    WriteShipTo(*globals.oClient);
+    VSInvoice.WriteParagraph("");
+    VSInvoice.WriteParagraph("Description: " + order.description);
+    VSInvoice.WriteParagraph("");
+    WriteOrderTable(order);
+    WriteTotals(order, WriteLineTable(*order.lines));
+    VSInvoice.SetFooter(kThanksFooter);
+    VSInvoice.EndDocument();
+  });
+}
+
+void PrtInvoice::ReadClient() {
+  globals.oClient->OpenCn();
+  globals.oClient->GetClient(globals.CurCustNum);
+  globals.oClient->CloseCn();
+}
+
+// The shipping charge is rounded to cents here and nowhere else, so the printed total may differ from the client's
+// balance in the last place.
+PrtInvoice::Order PrtInvoice::ReadOrder() {
+  const Object<Invoice> invoice = globals.oInvoice;
+  invoice->OpenCn();
+  invoice->GetInvoice(globals.CurInvoiceNum);
+  Order order{invoice->description, invoice->InvoiceDate,    invoice->SalesRep, invoice->ShippingType, invoice->Terms,
+              invoice->Discount,    invoice->ShippingCharge, invoice->Tax,      invoice->Interest,     {}};
+  order.lines = invoice->GetInvoiceItems(globals.CurInvoiceNum);
+  invoice->CloseCn();
+  order.ShippingCharge = convert.ToCurrency(convert.CurrencyText(order.ShippingCharge));
+  return order;
+}
+
+// The box reaches past the right margin, and is meant to.
+void PrtInvoice::WriteShipTo(const Client& client) {
+  WriteAddress(VSInvoice, "Ship To:", "5in",
+               {client.ShipFname, client.ShipLname, client.ShipAddress1, client.Shipcity, client.ShipState,
+                client.ShipZipCode, client.ShipHomePhone});
+}
+
+void PrtInvoice::WriteOrderTable(const Order& order) {
+  StartTable(VSInvoice, kOrderTable);
+  AddRow(VSInvoice, kOrderTable, {convert.ToText(order.InvoiceDate), order.ShippingType, order.SalesRep, order.Terms});
+  VSInvoice.SetTableBold(0, 1, 0, 4);
+  VSInvoice.EndTable();
+  VSInvoice.WriteParagraph("");
+}
+
+/// Returns the sum of all lines, those that the form has no room for included.
+Currency PrtInvoice::WriteLineTable(Recordset& lines) {
+  Currency subTotal;
+  StartTable(VSInvoice, kLineTable);
+  if (lines.RecordCount() > 0) lines.MoveFirst();
+  for (; !lines.Eof(); lines.MoveNext()) {
+    WriteLine(lines);
+    subTotal += lines.Currency("amount");
+  }
+  EndFormTable(VSInvoice);
+  return subTotal;
+}
+
+void PrtInvoice::WriteLine(const Recordset& line) {
+  const Value quantity = line.Field("Qty");
+  Currency unitCharge;
+  if (!IsNull(quantity) && convert.ToDouble(quantity) > 0) {
+    unitCharge = convert.ToCurrency(Divide(line.Field("amount"), quantity, convert));
+  }
+  const double backOrder = std::abs(Val(line.Text("BackOrder")));
+  AddRow(
+      VSInvoice, kLineTable,
+      {convert.ToText(quantity), backOrder == 0 ? "" : convert.ToText(backOrder), convert.ToText(line.Field("ItemNum")),
+       line.Text("Notes"), convert.CurrencyText(unitCharge), convert.CurrencyText(line.Field("amount"))});
+}
+
+// The discount is shown as it was reckoned, but rounded to four decimals before it goes into the total.
+void PrtInvoice::WriteTotals(const Order& order, Currency subTotal) {
+  const double discount = subTotal.ToDouble() * (order.Discount / 100);
+  const Currency total = subTotal - Currency::FromDouble(discount) + order.Interest + order.Tax + order.ShippingCharge;
+  const std::string heading = "SubTotal|" + convert.CurrencyText(subTotal) + ";";
+  const TableKind table{pages::TableBorder::Totals, ">1.125in|>1.125in;", heading};
+  StartTable(VSInvoice, table);
+  VSInvoice.SetAlignment(pages::Alignment::Right);
+  AddRow(VSInvoice, table, {"Discount:", convert.CurrencyText(discount)});
+  AddRow(VSInvoice, table, {"Interest:", convert.CurrencyText(order.Interest)});
+  AddRow(VSInvoice, table, {"Sales Tax:", convert.CurrencyText(order.Tax)});
+  AddRow(VSInvoice, table, {"Shipping:", convert.CurrencyText(order.ShippingCharge)});
+  AddRow(VSInvoice, table, {"Total:", convert.CurrencyText(total)});
+  VSInvoice.SetTableBold(5, 1, 5, 2);
+  VSInvoice.EndTable();
+}
+
+}  // namespace norvane

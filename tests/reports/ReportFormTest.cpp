@@ -1,0 +1,192 @@
+#include "ReportOffice.h"
+#include "reports/DatePair.h"
+#include "reports/Headings.h"
+#include "reports/ReportForm.h"
+#include "reports/ReportTable.h"
+
+namespace norvane::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+constexpr const char* kNotice = "LoadingClients";
+
+/// A report with criteria beside it. It goes on only with a number in LedgerFieldValue.
+class Criteria : public VSregistryReport {
+ public:
+  static constexpr const char* kName = "Criteria";
+  explicit Criteria(Program& host) : VSregistryReport(host, kName, "Print Criteria") {
+    Frame1.SetWidth(2800);
+    SetReportLayout({}, {layout::Group(Frame1, layout::Column({DateField("Since:", txtSinceDate, DTPicker1), btnGo}))});
+    WritePickedDate(DTPicker1, txtSinceDate);
+    btnGo.Click = [this] { Build("Criteria.btnGo_Click -", [this] { ListPreview(); }); };
+  }
+
+  Frame Frame1{*this, "Frame1", "Print"};
+  MaskedBox txtSinceDate{*this, "txtSinceDate"};
+  DatePicker DTPicker1{*this, "DTPicker1"};
+  Button btnGo{*this, "btnGo", {.caption = "&Preview"}};
+
+ private:
+  void Form_Load() override {
+    Build("Criteria.Form_Load -", [this] {
+      ShowNotice(kNotice);
+      SetDates(DTPicker1, txtSinceDate, Date::FromYearMonthDay(2025, 1, 1));
+      ListPreview();
+      screens.Unload(kNotice);
+    });
+  }
+  void Form_Resize() override { ResizeBeside(Frame1); }
+
+  void ListPreview() {
+    VSregistry.Clear();
+    StartReport({.top = "0.25in"});
+    VSregistry.SetHeader(ListHeader("Criteria"));
+    VSregistry.WriteParagraph("Since " + convert.ToText(convert.ToDateFromMask(txtSinceDate.Text())));
+    VSregistry.WriteParagraph(convert.ToText(convert.ToLong(globals.LedgerFieldValue)));
+    VSregistry.EndDocument();
+  }
+};
+
+/// A list over the whole width, and a form with the blocks of a receipt.
+class Plain : public VSregistryReport {
+ public:
+  static constexpr const char* kName = "Plain";
+  explicit Plain(Program& host) : VSregistryReport(host, kName, "Print Plain") { SetReportLayout(); }
+};
+
+class Receipt : public VSInvoiceReport {
+ public:
+  static constexpr const char* kName = "Receipt";
+  explicit Receipt(Program& host) : VSInvoiceReport(host, kName, "Print Receipt") { SetReportLayout(); }
+
+ private:
+  void Form_Load() override {
+    Build("Receipt.Form_Load -", [this] {
+      const CompanyHeading company = TakeCompanyHeading(globals.oSetup);
+      constexpr TableKind kTable{pages::TableBorder::Grid, "1in|1in;", "A|B;"};
+      StartReport();
+      WriteCompanyHeading(VSInvoice, company, company.Name);
+      StartTable(VSInvoice, kTable);
+      AddRow(VSInvoice, kTable, {"a", "b"});
+      EndFormTable(VSInvoice);
+      VSInvoice.EndDocument();
+    });
+  }
+};
+
+class ReportFormTest : public ReportOffice {
+ protected:
+  ReportFormTest() {
+    globals.LedgerFieldValue = "1";
+    program.screens.Add<Criteria>();
+    program.screens.Add<Plain>();
+    program.screens.Add<Receipt>();
+    program.screens.AddFactory(kNotice, [](Program& host) {
+      return std::make_shared<Form>(host, kNotice, FormStyle{.goesWithOwner = true, .notice = true});
+    });
+  }
+  bool NoticeStands() { return program.screens.Find(kNotice) != nullptr; }
+};
+
+TEST_F(ReportFormTest, ShowsItsNoticeOnlyWhileItLoads) {
+  desktop.DuringDoEvents([&] {
+    ASSERT_TRUE(NoticeStands());
+    EXPECT_EQ(program.screens.Find(kNotice)->Owner(), program.screens.Find("Criteria"));
+  });
+  Open<Criteria>();
+  EXPECT_FALSE(NoticeStands());
+  EXPECT_EQ(desktop.repaints, 1);
+}
+
+TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
+  globals.LedgerFieldValue = "none";
+  desktop.Expect("Criteria.Form_Load -13 Type mismatch.  If error persists contact Norvanes author.");
+  Criteria& report = Open<Criteria>();
+  EXPECT_TRUE(report.IsVisible());
+  EXPECT_TRUE(NoticeStands());
+  EXPECT_THAT(WordsOf(report.VSregistry),
+              ElementsAre("Criteria", "Norvane & Daughters", "11/22/2026", "Since 1/1/2025"));
+  globals.LedgerFieldValue = "2";
+  report.btnGo.Press();
+  EXPECT_THAT(WordsOf(report.VSregistry), Contains("2"));
+
+  globals.LedgerFieldValue = "none";
+  int toldOfPages = 0;
+  report.VSregistry.observer = [&](Aspect aspect) { toldOfPages += aspect == Aspect::Pages; };
+  desktop.Expect("Criteria.btnGo_Click -13");
+  report.btnGo.Press();
+  EXPECT_EQ(toldOfPages, 1);
+  EXPECT_THAT(WordsOf(report.VSregistry), Not(Contains("2")));
+  report.btnExit.Press();
+  EXPECT_FALSE(NoticeStands());
+}
+
+TEST_F(ReportFormTest, TheTwoHalvesOfADateGoTheirOwnWaysAfterTyping) {
+  Criteria& report = Open<Criteria>();
+  EXPECT_EQ(report.txtSinceDate.Text(), "01/01/25");
+  report.txtSinceDate.UserType("03/04/26");
+  EXPECT_EQ(report.DTPicker1.Value(), Date::FromYearMonthDay(2025, 1, 1));
+  report.btnGo.Press();
+  EXPECT_THAT(WordsOf(report.VSregistry), Contains("Since 3/4/2026"));
+  report.DTPicker1.UserPick(Date::FromYearMonthDay(2024, 12, 31));
+  EXPECT_EQ(report.txtSinceDate.Text(), "12/31/24");
+  report.txtSinceDate.UserType("02/30/26");
+  desktop.Expect("Criteria.btnGo_Click -13");
+  report.btnGo.Press();
+}
+
+TEST_F(ReportFormTest, ResizesByTheRuleOfItsKind) {
+  const auto placesOf = [](const Form& form, const Control& preview) {
+    const Control* exit = form.Controls().front();
+    return std::vector<Twips>{preview.Left(), preview.Width(), preview.Height(), exit->Left()};
+  };
+  Receipt& receipt = Open<Receipt>();
+  receipt.UserResize(10'000, 8'000);
+  EXPECT_THAT(placesOf(receipt, receipt.VSInvoice), ElementsAre(0, 9830, 7350, 9000));
+  receipt.UserResize(999, 600);
+  EXPECT_THAT(placesOf(receipt, receipt.VSInvoice), ElementsAre(0, 829, 7350, 9000)) << "what is too small stays";
+
+  Plain& plain = Open<Plain>();
+  plain.UserResize(10'000, 8'000);
+  EXPECT_THAT(placesOf(plain, plain.VSregistry), ElementsAre(25, 9750, 7200, 9000));
+
+  Criteria& criteria = Open<Criteria>();
+  criteria.UserResize(10'000, 8'000);
+  EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 6950, 7200, 9000));
+  EXPECT_EQ(criteria.Frame1.Left(), 7000);
+  criteria.UserResize(3'000, 700);
+  EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 6950, 7200, 2000));
+  EXPECT_EQ(criteria.Frame1.Left(), 7000);
+}
+
+TEST_F(ReportFormTest, SeveralStandOpenEachWithItsOwnDocument) {
+  Criteria& criteria = Open<Criteria>();
+  globals.LedgerFieldValue = "2";
+  Receipt& receipt = Open<Receipt>();
+  EXPECT_TRUE(criteria.IsVisible() && receipt.IsVisible());
+  EXPECT_FALSE(criteria.IsModal() || receipt.IsModal());
+  EXPECT_TRUE(receipt.VSInvoice.HasFocus());
+  EXPECT_EQ(receipt.btnExit.Caption(), "&Exit");
+  EXPECT_EQ(criteria.btnExit.ToolTip(), "Exit Vendor Payments");
+  receipt.UserClose();
+  EXPECT_EQ(program.screens.Find("Receipt"), nullptr);
+  EXPECT_THAT(WordsOf(criteria.VSregistry), Contains("1"));
+}
+
+TEST_F(ReportFormTest, TheCompanysLinesBearTheirPrefixesAndTheSlashStaysAlone) {
+  EXPECT_THAT(WordsOf(Open<Receipt>().VSInvoice), ElementsAre(",  ", " / ", "A", "B", "a", "b"));
+  program.screens.Unload("Receipt");
+  database.Execute(
+      "INSERT INTO tb_Company (Name, Address1, Address2, City, State, ZipCode, Phone, Fax, WebSite, Statetaxrate) "
+      "VALUES ('Norvane | Co;', '12 Harbour Road', 'unprinted', 'Portland', 'ME', '04101', '555-0100', '555-0101', "
+      "'norvane.example', 0)");
+  EXPECT_THAT(WordsOf(Open<Receipt>().VSInvoice),
+              ElementsAre("Norvane | Co;", "12 Harbour Road", "Portland, ME 04101", "Phone: 555-0100 / Fax: 555-0101",
+                          "Web: norvane.example", "A", "B", "a", "b"));
+}
+
+}  // namespace
+}  // namespace norvane::test

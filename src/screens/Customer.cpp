@@ -11,12 +11,10 @@
 #include "data/Vendor.h"
 #include "data/cSetup.h"
 #include "screens/Clients.h"
-#include "screens/Opening.h"
-#include "screens/intro.h"
-
-#if __has_include("screens/CustInvoices.h")
 #include "screens/CustInvoices.h"
-#endif
+#include "screens/Opening.h"
+#include "screens/Sales.h"
+#include "screens/intro.h"
 
 namespace norvane {
 
@@ -219,23 +217,20 @@ void Customer::SelectClient(int row) {
 
 void Customer::CustList2_DblClick() {
   Trapped("Client.CustList2_DblClick -", [&] {
-    if (!HasClients() || !screens.Has("CustInvoices")) return;
+    if (!HasClients()) return;
     CustList2_Click();
-#if __has_include("screens/CustInvoices.h")
     screens.Show(CustInvoices::kName);
-    Date sinceDate = convert.ToDate("01/01/" + convert.ToText(desktop.Today().Year()));
-    GetInvoices(program, sinceDate);
+    GetInvoices(program, StartOfYear(desktop));
     auto& sales = screens.Touch<CustInvoices>();
-    if (sales.InvoiceList.Rows() < 2) {
+    if (sales.InvoiceList.Rows() >= 2) {
+      sales.CmbInvoice.SetText(CustInvoices::kSelectedClient);
+      sales.Show();
+    } else {
       sales.Unload();
       if (AskYesNo("Enter new sales invoice for " + globals.CurClientName + "?", "No Sales Found")) {
         StartNewInvoice(program);
       }
-    } else {
-      sales.CmbInvoice.SetText("Selected Client");
-      sales.Show();
     }
-#endif
   });
 }
 

@@ -18,7 +18,7 @@ struct RowEditingRules {
     std::string_view setOldRowStatus;
     std::string_view setNewRowStatus;
     std::string_view afterRowEdit;
-    std::string_view rowColChange;
+    std::string_view rowColChange = {};
     std::string_view lostFocus = {};
   } labels;
   std::vector<int> testColumns;  ///< a row above the one entered is empty when all of these are

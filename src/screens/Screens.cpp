@@ -2,9 +2,13 @@
 
 #include "forms/Program.h"
 #include "screens/About.h"
+#include "screens/CustInvoices.h"
+#include "screens/CustSearch.h"
 #include "screens/Customer.h"
 #include "screens/ExpenseTypes.h"
+#include "screens/InvSearch.h"
 #include "screens/InventoryCats.h"
+#include "screens/InvoiceDetail.h"
 #include "screens/Notices.h"
 #include "screens/PaymentCategories.h"
 #include "screens/Profile.h"
@@ -18,9 +22,13 @@ namespace norvane {
 void RegisterScreens(Program& program) {
   ScreenTable& screens = program.screens;
   screens.Add<About>();
+  screens.Add<CustInvoices>();
+  screens.Add<CustSearch>();
   screens.Add<Customer>();
   screens.Add<ExpenseTypes>();
+  screens.Add<InvSearch>();
   screens.Add<InventoryCats>();
+  screens.Add<InvoiceDetail>();
   screens.Add<PaymentCategories>();
   screens.Add<Profile>();
   screens.Add<ShippingTypes>();

@@ -95,8 +95,7 @@ void frmInventory::FillCategories() {
     btnCategories_Click();
     return;
   }
-  for (categories.MoveFirst(); !categories.Eof(); categories.MoveNext()) cmbCategory.AddItem(CategoryItem(categories));
-  cmbCategory.SetText(cmbCategory.Items().front());
+  OfferCategories(cmbCategory, categories);
 }
 
 void frmInventory::cmbCategory_Click() {

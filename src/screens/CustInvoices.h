@@ -1,0 +1,55 @@
+#pragma once
+
+#include "forms/Form.h"
+
+namespace norvane {
+
+/// The sales invoices of the selected client, or of all clients, since a date.
+class CustInvoices : public Form {
+ public:
+  static constexpr const char* kName = "CustInvoices";
+  static constexpr const char* kSelectedClient = "Selected Client";
+  static constexpr const char* kAllClients = "All Clients";
+  explicit CustInvoices(Program& program);
+
+  Frame Frame2{*this, "Frame2"};
+  Button btnDetails{*this, "btnDetails", {.toolTip = "View details for selected sales invoice", .icon = "invoices"}};
+  Button btnNewInvoice{
+      *this, "btnNewInvoice", {.toolTip = "Enter new sales invoice for selected client", .icon = "invoice-new"}};
+  Button btnDelete{*this, "btnDelete", {.toolTip = "Delete selected sales invoice", .icon = "delete"}};
+  Button btnPrint{*this, "btnPrint", {.toolTip = "Print selected sales invoice", .icon = "print"}};
+  Button btnCustInfo{*this, "btnCustInfo", {.toolTip = "Profile for selected client", .icon = "client"}};
+  Button btnReceipts{*this, "btnReceipts", {.toolTip = "Client Payments Received", .icon = "receipts"}};
+  Frame Frame3{*this, "Frame3"};
+  Button btnInventory{*this, "btnInventory", {.toolTip = "Add to/Edit Inventory", .icon = "inventory"}};
+  Button btnExit{*this, "btnExit", {.toolTip = "Exit Client Sales", .icon = "exit"}};
+  Frame Frame1{*this, "Frame1"};
+  Label Label4{*this, "Label4", "Sales Invoices for:"};
+  ComboBox CmbInvoice{*this, "CmbInvoice", ComboStyle::ItemsOnly, 16};
+  Label Label2{*this, "Label2", "Since:"};
+  MaskedBox txtSinceDate{*this, "txtSinceDate"};
+  DatePicker DTPicker1{*this, "DTPicker1"};
+  Button btnGo{*this, "btnGo", {.toolTip = "Get invoices for client and since date criteria", .icon = "go"}};
+  Grid InvoiceList{*this, "InvoiceList", GridKind::List};
+  Label Label3{*this, "Label3", "Balance Due:"};
+  Label lblBalDue{*this, "lblBalDue"};
+  Timer Timer1{*this, "Timer1", 1000, false};
+
+  /// The date typed or picked. Raises 13 if it is none.
+  Date SinceDate() const { return convert.ToDateFromMask(txtSinceDate.Text()); }
+  /// The current row's invoice becomes the selected one, under the client's name as it stands there.
+  void SelectInvoice();
+
+ private:
+  void Form_Load() override;
+  void btnGo_Click();
+  void InvoiceList_Click();
+  void InvoiceList_DblClick();
+  void btnDelete_Click();
+  void btnInventory_Click();
+  void btnReceipts_Click();
+  void Form_Resize() override;
+  void Form_Unload() override;
+};
+
+}  // namespace norvane

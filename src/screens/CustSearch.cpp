@@ -1,0 +1,55 @@
+#include "screens/CustSearch.h"
+
+#include "core/store/Recordset.h"
+
+#if __has_include("screens/Receipts.h")
+#include "screens/Receipts.h"
+#endif
+
+namespace norvane {
+
+CustSearch::CustSearch(Program& host)
+    : Form(host, kName, {.caption = "Select Client", .width = 4200, .height = 5400, .goesWithOwner = true}) {
+  SetLayout(layout::Column({layout::Stretch(CustList), layout::Strip({layout::Space(), btnOK, btnCancel})}));
+  SetExitButton(btnCancel);
+  CustList.DblClick = [this] { btnOK_Click(); };
+  CustList.KeyDown = [this](int keyCode) {
+    if (keyCode == static_cast<int>(Key::Enter)) btnOK_Click();
+  };
+  btnOK.Click = [this] { btnOK_Click(); };
+  btnCancel.Click = [this] { Unload(); };
+}
+
+void CustSearch::Form_Load() {
+  Trapped("CustSearch.Form_Load -", [&] {
+    CustList.Clear();
+    CustList.SetCols(2);
+    CustList.SetFormatString("Name|custnum");
+    CustList.SetColWidth(0, 2000);
+    CustList.SetColWidth(1, 0);
+    CustList.SetTopRow(1);
+    Recordset& clients = *globals.rsClientPick;
+    for (clients.MoveFirst(); !clients.Eof(); clients.MoveNext()) {
+      CustList.AddItem(clients.Text("lname") + ", " + clients.Text("fname") + "\t" + clients.Text("CustNum"));
+    }
+  });
+}
+
+// Reports under the other button's label.
+void CustSearch::btnOK_Click() {
+  Trapped("CustSearch.btnCancel_Click -", [&] {
+    const int row = CustList.Row();
+    if (row == 0) return;
+    globals.CurCustNum = convert.ToLong(CustList.Cell(row, 1));
+    globals.CurClientName = CustList.Cell(row, 0);
+#if __has_include("screens/Receipts.h")
+    Grid& payments = screens.Touch<Receipts>().PaymentList;
+    payments.SetCell(globals.RowSelected, 2, convert.ToText(globals.CurCustNum));
+    payments.SetCell(globals.RowSelected, 6, globals.CurClientName);
+#endif
+    globals.PayClientSet = true;
+    Unload();
+  });
+}
+
+}  // namespace norvane

@@ -18,7 +18,9 @@ namespace norvane::test {
 /// does.
 class Office : public ::testing::Test {
  protected:
-  Office() { RegisterScreens(program); }
+  explicit Office(const RegionalSettings& settings = {}) : program(desktop, settings, database.Folder()) {
+    RegisterScreens(program);
+  }
 
   void AddClient(int number, const std::string& lname, const std::string& fname) {
     database.Execute("INSERT INTO tb_Client (CustNum, Lname, Fname, Discount) VALUES (" + std::to_string(number) +
@@ -46,7 +48,7 @@ class Office : public ::testing::Test {
 
   Database database;
   ScriptedDesktop desktop;
-  Program program{desktop, RegionalSettings{}, database.Folder()};
+  Program program;
   Globals& globals = program.globals;
 };
 

@@ -106,7 +106,7 @@ void InventoryCats::DeleteSelected() {
   globals.oInventory->DeleteCategory(globals.CurCatNum);
   globals.rsCategories = globals.oInventory->rsCategories();
   globals.oInventory->CloseCn();
-  InventoryList.RemoveItem(InventoryList.Row());
+  rows_.RemoveRow(InventoryList.Row());
 }
 
 void InventoryCats::btnExit_Click() {

@@ -73,6 +73,7 @@ void InvoiceDetail::Form_Load() {
   Trapped("InvoiceDetail.Form_Load -", [&] {
     SkipTotal = true;
     globals.BeforeQty = rows_.OldRow = rows_.NewRow = 0;
+    rows_.StartOver();
     SetUpGrid();
     FillShippingTypes();
     if (globals.CurInvoiceNum != 0) {

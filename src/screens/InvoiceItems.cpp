@@ -169,7 +169,7 @@ void InvoiceDetail::btnRemove_Click() {
       globals.oInvoice->OpenCn();
       globals.oInvoice->DeleteInvoiceItem(convert.ToLong(ItemList.Cell(row, kTransNum)));
       globals.oInvoice->CloseCn();
-      ItemList.RemoveItem(row);
+      rows_.RemoveRow(row);
     }
     ItemList.SetCol(kTransNum);
     GetInvoiceTotal();

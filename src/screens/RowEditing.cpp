@@ -126,6 +126,12 @@ void RowEditing::CommitPending() {
   if (globals_.RowChanged) AfterRowEdit();
 }
 
+void RowEditing::RemoveRow(std::int32_t row) {
+  grid_.RemoveItem(row);
+  if (failedRow_ == row) failedRow_ = 0;
+  if (failedRow_ > row) --failedRow_;
+}
+
 void RowEditing::GoToNewRow() {
   if (!grid_.Cell(grid_.Rows() - 1, 1).empty()) grid_.SetRows(grid_.Rows() + 1);
   if (rules_.scrollsToNewRow && grid_.Rows() >= 7) grid_.SetTopRow(grid_.Rows() - 5);

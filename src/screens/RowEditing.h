@@ -61,6 +61,8 @@ class RowEditing {
   void CommitPending();
   /// The grid was filled anew: no row of before is tried again.
   void StartOver() { failedRow_ = 0; }
+  /// Takes a row out of the grid.
+  void RemoveRow(std::int32_t row);
   /// Goes to the empty row at the end, adding one if the last holds something, and gives the grid the focus.
   void GoToNewRow();
 

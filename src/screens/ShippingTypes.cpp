@@ -108,7 +108,7 @@ void ShippingTypes::btnDelete_Click() {
     globals.oSetup->DeleteShippingType(SelectedType, SelectedOption);
     ReadList();
     globals.oSetup->CloseCn();
-    ShippingList.RemoveItem(ShippingList.Row());
+    rows_.RemoveRow(ShippingList.Row());
   });
 }
 

@@ -87,7 +87,7 @@ void TypeList::btnDelete_Click() {
     (*globals.oSetup.*kind_.remove)(SelectedType);
     ReadList();
     globals.oSetup->CloseCn();
-    PaymentList.RemoveItem(PaymentList.Row());
+    rows_.RemoveRow(PaymentList.Row());
   });
 }
 

@@ -228,11 +228,9 @@ TEST_F(InvoiceItemsTest, DrawsThePickersLineBackToARowWithoutAnItem) {
   OpenWithLines({1, 2});
   Empty(Sheet().ItemList, 2, InvoiceDetail::kItemNum);
   Enter(Sheet().ItemList, 2, InvoiceDetail::kBackOrder, "-1");
-  desktop.Expect("InvoiceDetail.SaveRow -13 Type mismatch");
+  // Neither that row nor, on the way back and at the end, the new one can be read.
+  for (int report = 0; report < 5; ++report) desktop.Expect("InvoiceDetail.SaveRow -13 Type mismatch");
   Sheet().btnNewItem.Press();
-  // The new row is what the nested and then the outer call find left.
-  desktop.Expect("InvoiceDetail.SaveRow -13");
-  desktop.Expect("InvoiceDetail.SaveRow -13");
   Picker().btnOK.Press();
   EXPECT_EQ(globals.RowSelected, 2);
   EXPECT_EQ(Line(2, InvoiceDetail::kTransNum) + Line(2, InvoiceDetail::kItemNum), "10031001");

@@ -121,7 +121,7 @@ const Flaw kFlaws[] = {
     {"DepositIsNotTheWeeksPayments",
      "SELECT TransNum FROM tb_GL AS entry WHERE Deposit > 0 AND TransNum > 1001 AND Deposit <> "
      "(SELECT sum(Amount) FROM tb_Receive AS paid WHERE paid.\"Date\" BETWEEN entry.\"Date\" - 6 AND entry.\"Date\")"},
-    {"SecondHandNumbers", "SELECT HomePhone FROM tb_Client WHERE HomePhone NOT LIKE '(___) 555-01__'"},
+    {"RealNumbers", "SELECT HomePhone FROM tb_Client WHERE HomePhone NOT LIKE '555-01__'"},
     {"RealMail", "SELECT Email FROM tb_Client WHERE Email NOT LIKE '%_._%@example.com'"},
 };
 

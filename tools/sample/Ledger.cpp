@@ -135,9 +135,7 @@ void WriteVendors(Database& database, Random& random) {
   int number = kFirstKey;
   for (const Supplier& supplier : Suppliers()) {
     const Town& town = random.Pick(Towns());
-    const auto phone = [&] {
-      return "(" + std::string(town.areaCode) + ") 555-01" + std::to_string(random.Between(10, 99));
-    };
+    const auto phone = [&] { return "555-01" + std::to_string(random.Between(10, 99)); };
     const bool goods = std::string(supplier.expenseType) == "Inventory";
     const std::string house = std::to_string(random.Between(100, 9900));
     rows.Add({number, supplier.company, house + " " + random.Pick(Streets()), "", town.city, town.state, town.zipCode,

@@ -49,8 +49,8 @@ void WriteSettings(Database& database) {
   database.Run("DELETE FROM tb_Company; DELETE FROM tb_InvCategories");
   Inserter company(database, "tb_Company", "Name,Address1,Address2,City,State,ZipCode,Phone,Fax,WebSite,Statetaxrate");
   const Town& home = Towns().front();
-  company.Add({"Alder Street Cycles", "1200 Alder Street", "", home.city, home.state, home.zipCode, "(253) 555-0100",
-               "(253) 555-0101", "www.example.com", kTaxPercent});
+  company.Add({"Alder Street Cycles", "1200 Alder Street", "", home.city, home.state, home.zipCode, "555-0100",
+               "555-0101", "www.example.com", kTaxPercent});
   Inserter categories(database, "tb_InvCategories", "CatNum,Description");
   std::int64_t number = 0;
   for (const char* name : Categories()) categories.Add({++number, name});

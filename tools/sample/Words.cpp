@@ -51,11 +51,10 @@ constexpr const char* kSalesReps[] = {"Dana", "Luis", "Morgan", "Tess"};
 constexpr const char* kCategories[] = {"Bicycles",    "Wheels and Tires",     "Drivetrain and Brakes",
                                        "Accessories", "Clothing and Helmets", "Workshop Services"};
 
-constexpr Town kTowns[] = {
-    {"Tacoma", "WA", "98405", "253"},   {"Tacoma", "WA", "98407", "253"},     {"Lakewood", "WA", "98499", "253"},
-    {"Puyallup", "WA", "98371", "253"}, {"Gig Harbor", "WA", "98335", "253"}, {"Olympia", "WA", "98501", "360"},
-    {"Seattle", "WA", "98104", "206"},  {"Auburn", "WA", "98002", "253"},     {"Bremerton", "WA", "98337", "360"},
-    {"Portland", "OR", "97205", "503"}, {"Boise", "ID", "83702", "208"}};
+constexpr Town kTowns[] = {{"Tacoma", "WA", "98405"},   {"Tacoma", "WA", "98407"},     {"Lakewood", "WA", "98499"},
+                           {"Puyallup", "WA", "98371"}, {"Gig Harbor", "WA", "98335"}, {"Olympia", "WA", "98501"},
+                           {"Seattle", "WA", "98104"},  {"Auburn", "WA", "98002"},     {"Bremerton", "WA", "98337"},
+                           {"Portland", "OR", "97205"}, {"Boise", "ID", "83702"}};
 
 constexpr Article kArticles[] = {{1, "City bicycle, 3 speed", 5490, 4, "5 years"},
                                  {1, "City bicycle, 8 speed", 7290, 4, "5 years"},

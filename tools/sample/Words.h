@@ -10,7 +10,6 @@ struct Town {
   const char* city;
   const char* state;
   const char* zipCode;
-  const char* areaCode;
 };
 
 struct Article {

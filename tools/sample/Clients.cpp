@@ -61,7 +61,9 @@ Card MakeCard(Random& random, Day today, int percent) {
   if (!random.Chance(percent)) return {};
   const int month = random.Between(1, 12);
   const int year = (YearOf(today) + random.Between(1, 4)) % 100;
-  const auto twoDigits = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+  const auto twoDigits = [](int number) {
+    return std::string{static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+  };
   return {random.Pick(CardNumbers()), random.Chance(70) ? "Credit Card" : "Debit Card",
           twoDigits(month) + "/" + twoDigits(year)};
 }

@@ -1,0 +1,167 @@
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <QApplication>
+#include <QPixmap>
+#include <QTemporaryDir>
+
+#include "app/Composition.h"
+#include "forms/Form.h"
+#include "sample/Sample.h"
+#include "tour/Stops.h"
+#include "tour/TourDesktop.h"
+#include "tour/Visitor.h"
+#include "ui/FormWindow.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace norvane;
+using namespace norvane::tour;
+
+constexpr const char* kUsage =
+    "usage: tour DELIVERED FOLDER [PICTURE...]\n"
+    "\n"
+    "Drives the program over sample data, made from the delivered database DELIVERED, and draws every screen into\n"
+    "FOLDER: light and dark, in the first size and enlarged. With names of pictures, only those.\n";
+
+// A Friday morning; the sample reaches up to it.
+constexpr std::chrono::year_month_day kDay = std::chrono::year{2025} / 10 / 17;
+constexpr double kMorning = 10.4 / 24;
+
+const std::vector<std::pair<ui::Theme, const char*>> kThemes{{ui::Theme::Light, "light"}, {ui::Theme::Dark, "dark"}};
+
+/// The offscreen platform says what it can't do each time that it is asked to; none of it matters for a picture.
+void LeaveOutThePlatformsRemarks(QtMsgType, const QMessageLogContext&, const QString& text) {
+  if (!text.startsWith("This plugin does not support")) std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// One stop under one theme: a program of its own, so that no stop depends on another.
+class Visit {
+ public:
+  Visit(const Stop& stop, ui::Theme theme, const fs::path& data, const fs::path& target)
+      : stop_(stop),
+        target_(target),
+        desktop_(theme, Date(sample::ToDay(kDay) + kMorning)),
+        program_(desktop_, {}, data) {
+    desktop_.modalForm = [this](Form& form) { Photograph(form); };
+    Compose(program_, desktop_);
+  }
+  ~Visit() {
+    for (Form* form : program_.screens.Loaded()) form->Hide();
+  }
+
+  /// What went wrong, empty if nothing did.
+  std::string Make() {
+    program_.Start("Customer");
+    for (const Step& step : stop_.steps) DoStep(program_, step);
+    if (Form* form = program_.screens.Find(stop_.screen); form != nullptr && !taken_) Photograph(*form);
+    if (!desktop_.boxes.empty()) return "a box came up: " + desktop_.boxes.front();
+    return taken_ ? "" : "the screen did not come up";
+  }
+
+ private:
+  void Photograph(Form& form) {
+    if (form.Name() != stop_.screen || taken_) return;
+    ui::FormWindow* window = desktop_.WindowOf(form);
+    if (window == nullptr) return;
+    Save(*window, "");
+    if (form.Style().resizable) {
+      window->resize(window->width() * 3 / 2, window->height() * 7 / 5);
+      Save(*window, "-enlarged");
+    }
+    taken_ = true;
+  }
+
+  void Save(QWidget& window, const char* suffix) {
+    desktop_.DoEvents();
+    const fs::path file = target_ / (std::string(stop_.picture) + suffix + ".png");
+    if (!window.grab().save(QString::fromStdString(file.string())))
+      throw std::runtime_error("can't write " + file.string());
+  }
+
+  const Stop& stop_;
+  fs::path target_;
+  TourDesktop desktop_;
+  Program program_;
+  bool taken_ = false;
+};
+
+/// A page that shows all pictures of the folder, for a look at everything at once.
+void WriteIndex(const fs::path& folder, const std::vector<const Stop*>& stops) {
+  std::ofstream page(folder / "index.html");
+  page << "<!DOCTYPE html><meta charset='utf-8'><title>Norvanes: picture tour</title>\n"
+       << "<style>body{font-family:sans-serif}img{max-width:48%;vertical-align:top;margin:4px;border:1px solid "
+          "#999}</style>\n";
+  for (const Stop* stop : stops) {
+    page << "<h2>" << stop->picture << "</h2>\n";
+    for (const auto& [theme, name] : kThemes) page << "<img src='" << name << "/" << stop->picture << ".png'>\n";
+  }
+}
+
+/// The stops asked for that this program has, in their order.
+std::vector<const Stop*> Choose(const Program& program, const std::set<std::string_view>& wanted) {
+  std::vector<const Stop*> chosen;
+  for (const Stop& stop : Stops())
+    if ((wanted.empty() || wanted.contains(stop.picture)) && CanVisit(program, stop)) chosen.push_back(&stop);
+  return chosen;
+}
+
+/// Screens that no stop shows.
+std::vector<std::string> Unseen(const Program& program) {
+  std::vector<std::string> names = program.screens.Names();
+  std::erase_if(names, [](const std::string& name) {
+    return std::ranges::any_of(Stops(), [&](const Stop& stop) { return stop.screen == name; });
+  });
+  return names;
+}
+
+int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::string_view>& wanted) {
+  const QTemporaryDir data;
+  const fs::path dataFolder = data.path().toStdString();
+  sample::WriteSample(delivered, dataFolder / "norvane.mdb", {.size = {}, .seed = 1, .today = sample::ToDay(kDay)});
+
+  TourDesktop desktop(ui::Theme::Light, Date(sample::ToDay(kDay)));
+  Program program(desktop, {}, dataFolder);
+  Compose(program, desktop);
+  const std::vector<const Stop*> stops = Choose(program, wanted);
+
+  int problems = 0;
+  for (const auto& [theme, name] : kThemes) {
+    fs::create_directories(folder / name);
+    for (const Stop* stop : stops) {
+      const std::string problem = Visit(*stop, theme, dataFolder, folder / name).Make();
+      if (problem.empty()) continue;
+      ++problems;
+      std::fprintf(stderr, "%s (%s): %s\n", std::string(stop->picture).c_str(), name, problem.c_str());
+    }
+  }
+  for (const std::string& screen : Unseen(program)) std::fprintf(stderr, "no stop shows %s\n", screen.c_str());
+  WriteIndex(folder, stops);
+  std::printf("%zu screens, light and dark: %s\n", stops.size(), (folder / "index.html").c_str());
+  return problems == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::fputs(kUsage, stderr);
+    return 2;
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(LeaveOutThePlatformsRemarks);
+  QApplication application(argc, argv);
+  try {
+    return Run(argv[1], fs::absolute(argv[2]), {argv + 3, argv + argc});
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "tour: %s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,85 @@
+#include "tour/Stops.h"
+
+namespace norvane::tour {
+namespace {
+
+using enum Step::Do;
+
+// Ways that several stops begin with.
+const Step kClient{Click, "Customer", "CustList2", 3, 2};
+const Step kSales{DoubleClick, "Customer", "CustList2", 3, 2};
+const Step kPayments{Press, "Customer", "btnReceipts"};
+const Step kRegistry{Press, "Customer", "btnPayments"};
+const Step kInventory{Press, "Customer", "btnInventory"};
+const Step kProfile{Press, "Customer", "btnCustInfo"};
+const Step kInvoice{DoubleClick, "CustInvoices", "InvoiceList", 1, 2};
+const Step kSetup{Choose, "Customer", "mnuSetup"};
+const Step kOrdering{Choose, "Customer", "mnuOrdering"};
+
+}  // namespace
+
+const std::vector<Stop>& Stops() {
+  static const std::vector<Stop> stops{
+      {"clients", "Customer", {kClient}},
+      {"splash", "intro", {{Show, "intro"}}},
+      {"about", "About", {{Choose, "Customer", "mnuAbout"}}},
+
+      {"profile-client", "Profile", {kClient, kProfile}},
+      {"profile-billing", "Profile", {kClient, kProfile, {Tab, "Profile", "SSTab1", 1}}},
+      {"profile-shipping", "Profile", {kClient, kProfile, {Tab, "Profile", "SSTab1", 2}}},
+      {"profile-new", "Profile", {{Press, "Customer", "btnNewCust"}}},
+
+      {"sales", "CustInvoices", {kSales}},
+      {"invoice", "InvoiceDetail", {kSales, kInvoice}},
+      {"invoice-new", "InvoiceDetail", {kClient, {Press, "Customer", "btnNewInvoice"}}},
+      {"item-picker", "InvSearch", {kSales, kInvoice, {Press, "InvoiceDetail", "btnNewItem"}}},
+
+      {"payments", "Receipts", {kClient, kPayments}},
+      {"calendar", "PaymentDate", {kClient, kPayments, {CellButton, "Receipts", "PaymentList", 1, 3}}},
+      {"client-picker", "CustSearch", {kClient, kPayments, {CellButton, "Receipts", "PaymentList", 1, 6}}},
+
+      {"inventory", "frmInventory", {kInventory}},
+      {"categories", "InventoryCats", {kInventory, {Press, "frmInventory", "btnCategories"}}},
+      {"order-dates", "BackOrderSet", {kOrdering, {Press, "PrtBackOrders", "btnOrder"}}},
+
+      {"vendors", "Vendors", {{Press, "Customer", "btnVendors"}}},
+      {"vendor-picker", "VendorSearch", {{Show, "VendorSearch"}}},
+      {"registry", "GL", {kRegistry}},
+      {"entry-types", "LedgerTypes", {{Show, "LedgerTypes"}}},
+      {"expense-types", "ExpenseTypes", {kRegistry, {Press, "GL", "btnPaymentCategories"}}},
+
+      {"setup", "frmSetup", {kSetup}},
+      {"payment-types", "PaymentCategories", {kSetup, {Press, "frmSetup", "btnPayments"}}},
+      {"shipping-types", "ShippingTypes", {kSetup, {Press, "frmSetup", "btnShipping"}}},
+
+      {"print-invoice", "PrtInvoice", {kSales, {Press, "CustInvoices", "btnPrint"}}},
+      {"print-receipt", "PrtReceipt", {kClient, kPayments, {Press, "Receipts", "btnPrint"}}},
+      {"billing", "Billing", {{Choose, "Customer", "mnuBilling"}}},
+      {"print-billing", "PrtBilling", {{Choose, "Customer", "mnuBilling"}, {Press, "Billing", "btnPrint"}}},
+      {"print-balances", "PrtBals", {{Choose, "Customer", "mnuBals"}}},
+      {"print-30-days", "Prt30Days", {{Choose, "Customer", "mnu30days"}}},
+      {"print-income", "PrtIncome", {{Choose, "Customer", "mnuIncomeStatement"}}},
+      {"print-registry", "PrtRegistry", {kRegistry, {Press, "GL", "btnPrint"}}},
+      {"print-stock", "PrtInventory", {{Choose, "Customer", "mnuInStock"}}},
+      {"print-item-sales", "PrtInventorySales", {{Choose, "Customer", "mnuInventorySales"}}},
+      {"print-best-sellers", "PrtInventoryBestSales", {{Choose, "Customer", "mnuBestSellers"}}},
+      {"print-to-order", "PrtBackOrders", {kOrdering}},
+      {"print-ordered", "PrtBackOrdered", {{Choose, "Customer", "mnuOrdered"}}},
+
+      {"backup", "frmBackup", {{Choose, "Customer", "mnuBackup"}}},
+      {"restore", "frmRestore", {{Choose, "Customer", "mnuRestore"}}},
+
+      {"notice-getting-clients", "GettingClients", {{Show, "GettingClients"}}},
+      {"notice-getting-invoices", "GettingInvoices", {{Show, "GettingInvoices"}}},
+      {"notice-loading-invoices", "LoadingInvoices", {kClient, {Show, "LoadingInvoices"}}},
+      {"notice-getting-inventory", "GettingInventory", {{Show, "GettingInventory"}}},
+      {"notice-getting-receipts", "GettingReceipts", {{Show, "GettingReceipts"}}},
+      {"notice-loading-clients", "LoadingClients", {{Show, "LoadingClients"}}},
+      {"notice-loading-billing", "LoadingBilling", {{Show, "LoadingBilling"}}},
+      {"notice-client-saved", "CustomerSaved", {{Show, "CustomerSaved"}}},
+      {"notice-vendor-saved", "VendorSaved", {{Show, "VendorSaved"}}},
+  };
+  return stops;
+}
+
+}  // namespace norvane::tour

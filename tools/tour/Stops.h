@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace norvane::tour {
+
+/// One thing that a user does, told by the names of screen and control.
+struct Step {
+  enum class Do {
+    Press,        ///< a button or an option
+    Choose,       ///< a menu entry
+    Click,        ///< a row of a grid
+    DoubleClick,  ///< a row of a grid
+    CellButton,   ///< the button in a cell of a grid
+    Tab,          ///< a tab, from 0
+    Show,         ///< no control: the screen comes up by itself
+  };
+  Do what;
+  std::string_view screen;
+  std::string_view control = {};
+  int row = 1;  ///< of a grid, -1 for the last; the number of a tab
+  int col = 1;
+};
+
+/// A picture to take: of the screen, once the steps have been done on a program that has just been started.
+struct Stop {
+  std::string_view picture;  ///< file name without ending
+  std::string_view screen;
+  std::vector<Step> steps;
+};
+
+/// All pictures, in the order in which a newcomer would meet the screens.
+const std::vector<Stop>& Stops();
+
+}  // namespace norvane::tour

@@ -1,10 +1,7 @@
 #include "screens/CustSearch.h"
 
 #include "core/store/Recordset.h"
-
-#if __has_include("screens/Receipts.h")
 #include "screens/Receipts.h"
-#endif
 
 namespace norvane {
 
@@ -42,11 +39,9 @@ void CustSearch::btnOK_Click() {
     if (row == 0) return;
     globals.CurCustNum = convert.ToLong(CustList.Cell(row, 1));
     globals.CurClientName = CustList.Cell(row, 0);
-#if __has_include("screens/Receipts.h")
     Grid& payments = screens.Touch<Receipts>().PaymentList;
-    payments.SetCell(globals.RowSelected, 2, convert.ToText(globals.CurCustNum));
-    payments.SetCell(globals.RowSelected, 6, globals.CurClientName);
-#endif
+    payments.SetCell(globals.RowSelected, Receipts::kCustNum, convert.ToText(globals.CurCustNum));
+    payments.SetCell(globals.RowSelected, Receipts::kClient, globals.CurClientName);
     globals.PayClientSet = true;
     Unload();
   });

@@ -11,7 +11,9 @@
 #include "screens/InvoiceDetail.h"
 #include "screens/Notices.h"
 #include "screens/PaymentCategories.h"
+#include "screens/PaymentDate.h"
 #include "screens/Profile.h"
+#include "screens/Receipts.h"
 #include "screens/ShippingTypes.h"
 #include "screens/frmInventory.h"
 #include "screens/frmSetup.h"
@@ -30,7 +32,9 @@ void RegisterScreens(Program& program) {
   screens.Add<InventoryCats>();
   screens.Add<InvoiceDetail>();
   screens.Add<PaymentCategories>();
+  screens.Add<PaymentDate>();
   screens.Add<Profile>();
+  screens.Add<Receipts>();
   screens.Add<ShippingTypes>();
   screens.Add<frmInventory>();
   screens.Add<frmSetup>();

@@ -1,6 +1,7 @@
 #include "app/Composition.h"
 
 #include "forms/Program.h"
+#include "reports/RegisterReports.h"
 #include "screens/Screens.h"
 #include "ui/QtDesktop.h"
 
@@ -8,6 +9,7 @@ namespace norvane {
 
 void Compose(Program& program, ui::QtDesktop&) {
   RegisterScreens(program);
+  RegisterReports(program);
 }
 
 }  // namespace norvane

@@ -38,7 +38,8 @@ class Preview : public Control, public pages::DocumentBuilder {
   /// The metrics aren't owned; whoever gave them takes them away again, with nothing, before they go.
   void SetFontMetrics(const pages::FontMetrics* metrics);
   /// The document as it stands now, laid out when it is first asked for; none before the first start and as long as
-  /// there are no metrics. The reference holds until something is recorded.
+  /// there are no metrics. The reference stays good; what it refers to is made anew by the first question about pages
+  /// after something was recorded.
   const pages::Pages& Pages() const;
   int PageCount() const;
   /// An error has ended the building of the document: what there is of it is shown.

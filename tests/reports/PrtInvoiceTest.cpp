@@ -116,10 +116,10 @@ TEST_F(PrtInvoiceTest, DerivesTheUnitChargeFromQuantityAndAmount) {
   EXPECT_THAT(rowOf("half"), ElementsAre("$2.00", "$1.00"));
 }
 
-TEST_F(PrtInvoiceTest, RoundsDiscountAndShippingBeforeTheTotal) {
+TEST_F(PrtInvoiceTest, RoundsTheShippingButNotTheDiscountToCents) {
   AddInvoice(49.9502);
   AddLine("1", "100000");
-  // The discount is 4.99502. Taken off unrounded it would leave 5.00498.
+  // Rounded to cents, as it is shown, the discount of 4.99502 would leave 5.00.
   EXPECT_THAT(Totals(), IsSupersetOf({"$10.00", "Discount:", "$5.00", "Total:", "$5.01"}));
   program.screens.Unload("PrtInvoice");
   AddInvoice(0, 0, 10'050);

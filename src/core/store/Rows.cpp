@@ -44,8 +44,8 @@ std::string_view TakeBytes(std::string_view bytes, std::size_t& place) {
 /// The sign goes into the lowest bit, so that small numbers are short on either side of 0.
 void AppendWhole(std::string& bytes, std::int64_t value) {
   const std::uint64_t folded = (static_cast<std::uint64_t>(value) << 1) ^ static_cast<std::uint64_t>(value >> 63);
-  const int length = (std::bit_width(folded) + 7) / 8;
-  AppendBytes(bytes, {reinterpret_cast<const char*>(&folded), static_cast<std::size_t>(length)});
+  const std::size_t length = (static_cast<std::size_t>(std::bit_width(folded)) + 7) / 8;
+  AppendBytes(bytes, {reinterpret_cast<const char*>(&folded), length});
 }
 
 std::int64_t WholeOf(std::string_view field) {

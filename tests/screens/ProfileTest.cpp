@@ -304,7 +304,9 @@ TEST_F(ProfileTest, ShowsWhatIsOwedInRed) {
   profile = &OpenFor(2);
   EXPECT_EQ(profile->lblBalDue.Caption(), "($25.00)");
   EXPECT_EQ(profile->lblBalDue.ForeColor(), Colour::Black);
-  EXPECT_EQ(OpenFor(3).lblBalDue.Caption(), "$0.00");
+  profile = &OpenFor(3);
+  EXPECT_EQ(profile->lblBalDue.Caption(), "$0.00");
+  EXPECT_EQ(profile->lblBalDue.ForeColor(), Colour::Black);
 }
 
 TEST_F(ProfileTest, CopiesOneAddressToAnother) {

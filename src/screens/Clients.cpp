@@ -9,6 +9,7 @@
 #include "forms/Program.h"
 #include "screens/Customer.h"
 #include "screens/Opening.h"
+#include "screens/Receipts.h"
 
 namespace norvane {
 
@@ -94,8 +95,8 @@ void StartNewInvoice(Program& program) {
 void ShowReceipts(Program& program) {
   if (program.globals.CurCustNum == 0) {
     program.desktop.Say("Select or enter a client first");
-  } else if (CloseByItsExit(program.screens, "Receipts")) {
-    program.screens.Show("Receipts");
+  } else if (CloseByItsExit(program.screens, Receipts::kName)) {
+    program.screens.Show(Receipts::kName);
   }
 }
 

@@ -24,7 +24,6 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
   btnPrint.SetEnabled(screens.Has("PrtInvoice"));
   btnCustInfo.Click = [this] { ShowProfile(program); };
   btnReceipts.Click = [this] { btnReceipts_Click(); };
-  btnReceipts.SetEnabled(screens.Has("Receipts"));
   btnInventory.Click = [this] { btnInventory_Click(); };
   btnExit.Click = [this] { Unload(); };
   DTPicker1.Change = [this] { txtSinceDate.SetText(MaskedDateText(DTPicker1.Value())); };

@@ -5,6 +5,7 @@
 #include "data/Invoice.h"
 #include "screens/CustInvoices.h"
 #include "screens/Opening.h"
+#include "screens/Receipts.h"
 #include "screens/Sales.h"
 
 namespace norvane {
@@ -50,7 +51,6 @@ void InvoiceDetail::WireButtons() {
   btnPrint.Click = [this] { btnPrint_Click(); };
   btnPrint.SetEnabled(screens.Has("PrtInvoice"));
   btnPayments.Click = [this] { btnPayments_Click(); };
-  btnPayments.SetEnabled(screens.Has("Receipts"));
   btnExit.Click = [this] { btnExit_Click(); };
   btnTax.Click = [this] { btnTax_Click(); };
 }
@@ -257,7 +257,7 @@ void InvoiceDetail::btnNew_Click() {
 }
 
 void InvoiceDetail::btnPayments_Click() {
-  if (CloseByItsExit(screens, "Receipts")) screens.Show("Receipts");
+  if (CloseByItsExit(screens, Receipts::kName)) screens.Show(Receipts::kName);
 }
 
 void InvoiceDetail::btnExit_Click() {

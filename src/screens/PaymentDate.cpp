@@ -38,7 +38,7 @@ Grid& GridOf(const Form& caller) {
 
 PaymentDate::PaymentDate(Program& host)
     : Form(host, kName,
-           {.caption = "Select Date...", .width = 4300, .height = 4200, .resizable = false, .goesWithOwner = true}) {
+           {.caption = "Select Date...", .width = 4600, .height = 4600, .resizable = false, .goesWithOwner = true}) {
   SetLayout(layout::Column({layout::Stretch(PayDate), layout::Strip({layout::Space(), Command1})}));
   SetExitButton(Command1);
   PayDate.DateClick = [this](Date date) { PayDate_DateClick(date); };

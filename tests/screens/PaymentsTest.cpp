@@ -213,10 +213,10 @@ TEST_F(PaymentsTest, TheCalendarStandsBesideItsCellAndIsUsedByKeys) {
   EXPECT_TRUE(globals.RowChanged);
   EXPECT_FALSE(globals.PayDateSet);
 
-  Screen().UserResize(4600, 4400);
+  Screen().UserResize(5200, 5000);
   desktop.WhenModal<PaymentDate>([&](PaymentDate& calendar) {
-    EXPECT_EQ(calendar.Left() + calendar.Width(), Screen().Left() + 4600);
-    EXPECT_EQ(calendar.Top() + calendar.Height(), Screen().Top() + 4400);
+    EXPECT_EQ(calendar.Left() + calendar.Width(), Screen().Left() + 5200);
+    EXPECT_EQ(calendar.Top() + calendar.Height(), Screen().Top() + 5000);
     calendar.PayDate.UserKey(static_cast<int>(Key::Escape));
   });
   List().PressCellButton(1, Receipts::kDate);

@@ -53,7 +53,9 @@ const std::vector<Stop>& Stops() {
       {"shipping-types", "ShippingTypes", {kSetup, {Press, "frmSetup", "btnShipping"}}},
 
       {"print-invoice", "PrtInvoice", {kSales, {Press, "CustInvoices", "btnPrint"}}},
-      {"print-receipt", "PrtReceipt", {kClient, kPayments, {Press, "Receipts", "btnPrint"}}},
+      {"print-receipt",
+       "PrtReceipt",
+       {kClient, kPayments, {Click, "Receipts", "PaymentList", 1, 4}, {Press, "Receipts", "btnPrint"}}},
       {"billing", "Billing", {{Choose, "Customer", "mnuBilling"}}},
       {"print-billing", "PrtBilling", {{Choose, "Customer", "mnuBilling"}, {Press, "Billing", "btnPrint"}}},
       {"print-balances", "PrtBals", {{Choose, "Customer", "mnuBals"}}},

@@ -79,8 +79,10 @@ Qt::Alignment GridTableModel::AlignmentOf(int col) const {
   const bool isBoolean = grid_->ColDataType(col) == ColumnType::Boolean;
   const auto alignment = isMarker || isBoolean ? ColumnAlignment::Centre : grid_->Alignment(col);
   if (alignment == ColumnAlignment::Centre) return Qt::AlignCenter;
-  const bool isMoney = alignment == ColumnAlignment::General && grid_->ColDataType(col) == ColumnType::Currency;
-  if (alignment == ColumnAlignment::Right || isMoney) return Qt::AlignRight | Qt::AlignVCenter;
+  const auto at = static_cast<std::size_t>(col);
+  const bool isMoney = grid_->ColDataType(col) == ColumnType::Currency || (at < figures_.size() && figures_[at]);
+  if (alignment == ColumnAlignment::Right || (alignment == ColumnAlignment::General && isMoney))
+    return Qt::AlignRight | Qt::AlignVCenter;
   return Qt::AlignLeft | Qt::AlignVCenter;
 }
 

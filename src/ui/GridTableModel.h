@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QAbstractTableModel>
 
 #include "forms/Grid.h"
@@ -19,6 +21,9 @@ class GridTableModel : public QAbstractTableModel {
   /// Anything may have changed.
   void RefreshAll();
   void RefreshRow(int row);
+  /// Which columns hold nothing but figures: those without an alignment of their own stand to the right.
+  void SetFigures(std::vector<bool> figures) { figures_ = std::move(figures); }
+  bool IsRightAligned(int col) const { return AlignmentOf(col).testFlag(Qt::AlignRight); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -29,6 +34,7 @@ class GridTableModel : public QAbstractTableModel {
   Qt::Alignment AlignmentOf(int col) const;
 
   Grid* grid_;
+  std::vector<bool> figures_;
   int rows_ = 0;
   int columns_ = 0;
 };

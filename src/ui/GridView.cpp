@@ -8,6 +8,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
@@ -175,20 +176,36 @@ QRect GridView::CurrentCell() const {
   return visualRect(table_->index(grid_->Row() - 1, grid_->Col()));
 }
 
-/// What the texts take, told by the first rows: all of them would take too long, and they are of a kind.
+/// What the texts take and whether they are figures, told by the first rows: all of them would take too long, and they
+/// are of a kind.
 void GridView::MeasureColumns() {
-  const int rows = std::min(grid_->Rows(), kRowsMeasured);
   needs_.assign(static_cast<std::size_t>(grid_->Cols()), 0);
+  std::vector<bool> figures(needs_.size(), false);
   for (int col = 0; col < grid_->Cols(); ++col) {
     if (grid_->ColWidth(col) == 0) continue;
-    int widest = 0;
-    for (int row = 0; row < rows; ++row) {
-      widest = std::max(widest, fontMetrics().horizontalAdvance(ToQt(grid_->DisplayText(row, col))));
-    }
+    const auto at = static_cast<std::size_t>(col);
+    const ColumnContent content = LookAt(col);
     const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
-    needs_[static_cast<std::size_t>(col)] = std::min(widest + 2 * GridCellPainter::kPadding + 1 + helper, kWidestText);
+    needs_[at] = std::min(content.width + 2 * GridCellPainter::kPadding + 1 + helper, kWidestText);
+    figures[at] = content.isFigures;
   }
+  table_->SetFigures(std::move(figures));
+}
+
+GridView::ColumnContent GridView::LookAt(int col) const {
+  static const QRegularExpression figure(R"(^[-(]?[^\w\s/-]?\d[\d.,]*[^\w\s/-]?[-)]?$)");
+  ColumnContent content;
+  int filled = 0;
+  const int rows = std::min(grid_->Rows(), kRowsMeasured);
+  for (int row = 0; row < rows; ++row) {
+    const QString text = ToQt(grid_->DisplayText(row, col));
+    content.width = std::max(content.width, fontMetrics().horizontalAdvance(text));
+    if (row == 0 || text.isEmpty()) continue;
+    ++filled;
+    content.isFigures = (filled == 1 || content.isFigures) && figure.match(text).hasMatch();
+  }
+  return content;
 }
 
 /// Each column first gets the width it was given or what its texts need, whichever is less; then, as far as there is
@@ -213,6 +230,7 @@ void GridView::ArrangeColumns() {
   raise([](int, int need) { return need; });
   raise([](int given, int) { return given; });
   raise([](int given, int) { return static_cast<int>(given * kColumnGrowth); });
+  if (const int taker = ColumnForRest(); taker >= 0) widths[static_cast<std::size_t>(taker)] += std::max(0, room);
   for (std::size_t at = 0; at < widths.size(); ++at) {
     const int col = static_cast<int>(at);
     setColumnHidden(col, grid_->ColWidth(col) == 0);
@@ -220,6 +238,20 @@ void GridView::ArrangeColumns() {
     const auto own = userWidths_.find(col);
     setColumnWidth(col, own == userWidths_.end() ? widths[at] : own->second);
   }
+}
+
+/// The last column stretches by itself; figures at the far right would stand apart from their row, so there the widest
+/// column of texts takes the rest. -1 if the last one may.
+int GridView::ColumnForRest() const {
+  int last = -1;
+  int widest = -1;
+  for (int col = 0; col < grid_->Cols(); ++col) {
+    if (grid_->ColWidth(col) == 0) continue;
+    last = col;
+    const bool isText = !table_->IsRightAligned(col) && grid_->Alignment(col) != ColumnAlignment::Centre;
+    if (isText && (widest < 0 || grid_->ColWidth(col) > grid_->ColWidth(widest))) widest = col;
+  }
+  return last >= 0 && table_->IsRightAligned(last) ? widest : -1;
 }
 
 void GridView::SectionResized(int section, int width) {

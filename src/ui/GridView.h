@@ -53,6 +53,12 @@ class GridView : public QTableView, private GridObserver {
   void Abandon();
   void Later();
   void CatchUp();
+  struct ColumnContent {
+    int width = 0;  ///< of its widest text, in pixels
+    bool isFigures = false;
+  };
+  ColumnContent LookAt(int col) const;
+  int ColumnForRest() const;
   void MeasureColumns();
   void ArrangeColumns();
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);

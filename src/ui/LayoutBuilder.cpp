@@ -104,7 +104,7 @@ QWidget* LayoutBuilder::BuildBand(const Node& node, QWidget& page, const char* e
   QWidget* band = Build(node, page).widget;
   band->setProperty("strip", edge);
   band->layout()->setContentsMargins(kMargin - 2, 5, kMargin - 2, 5);
-  band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  band->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   return band;
 }
 
@@ -245,6 +245,7 @@ LayoutBuilder::Piece LayoutBuilder::BuildGroup(const Node& node, QWidget& page) 
     inner->setContentsMargins(margin, margin, margin, margin);
     if (content.widget) inner->addWidget(content.widget);
     if (content.layout) inner->addLayout(content.layout);
+    if (!(inner->expandingDirections() & Qt::Vertical)) inner->addStretch();
   }
   if (auto* box = qobject_cast<QGroupBox*>(holder)) box->setTitle(ToQt(node.caption));
   BindFrame(node, *holder);

@@ -1,11 +1,11 @@
 #include "ui/PageCanvas.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -15,12 +15,11 @@
 namespace norvane::ui {
 namespace {
 
-constexpr int kGap = 16;  // around the pages and between them
+constexpr int kGap = 12;  // around the pages and between them
 constexpr double kPixelsPerPoint = 96.0 / pages::kPointsPerInch;
 constexpr double kThumbnail = 0.2;
 constexpr double kSmallest = 0.1;
-constexpr double kLargest = 5;
-constexpr double kWheelStep = 1.15;
+constexpr double kZoomStep = 1.15;
 
 }  // namespace
 
@@ -33,28 +32,22 @@ PageCanvas::PageCanvas(QWidget* parent) : QAbstractScrollArea(parent) {
   horizontalScrollBar()->setSingleStep(40);
 }
 
-void PageCanvas::SetPages(pages::Pages pages) {
-  pages_ = std::move(pages);
+void PageCanvas::Show(const pages::Pages* pages) {
+  pages_ = pages;
+  current_ = 1;
   Arrange();
   GoToPage(1);
-  Tell();
 }
 
-void PageCanvas::SetFit(PageFit fit, int percent) {
-  const int page = CurrentPage();
-  fit_ = fit;
-  wanted_ = std::clamp(percent / 100.0, kSmallest, kLargest);
+void PageCanvas::SetZoom(ZoomChoice choice, double percent) {
+  choice_ = choice;
+  percent_ = percent;
   Arrange();
-  GoToPage(page);
-  Tell();
+  GoToPage(current_);
 }
 
-int PageCanvas::Percent() const {
-  return static_cast<int>(std::lround(scale_ / kPixelsPerPoint * 100));
-}
-
-void PageCanvas::ZoomBy(double factor) {
-  SetFit(PageFit::Percent, static_cast<int>(std::lround(Percent() * factor)));
+double PageCanvas::Percent() const {
+  return scale_ / kPixelsPerPoint * 100;
 }
 
 QSizeF PageCanvas::PageSize() const {
@@ -64,28 +57,30 @@ QSizeF PageCanvas::PageSize() const {
 double PageCanvas::ScaleFor(QSize room) const {
   const auto across = [&](int count) { return (room.width() - kGap * (count + 1)) / (pages::kPageWidth * count); };
   const double down = (room.height() - 2 * kGap) / pages::kPageHeight;
-  switch (fit_) {
-    case PageFit::WholePage:
+  switch (choice_) {
+    case ZoomChoice::WholePage:
       return std::min(across(1), down);
-    case PageFit::PageWidth:
+    case ZoomChoice::PageWidth:
       return across(1);
-    case PageFit::TwoPages:
+    case ZoomChoice::TwoPages:
       return std::min(across(2), down);
-    case PageFit::Thumbnail:
+    case ZoomChoice::Thumbnail:
       return kThumbnail * kPixelsPerPoint;
-    case PageFit::Percent:
-      return wanted_ * kPixelsPerPoint;
+    case ZoomChoice::Percent:
+      return percent_ / 100 * kPixelsPerPoint;
   }
   return kPixelsPerPoint;
 }
 
 void PageCanvas::Arrange() {
+  const QScopedValueRollback going(going_, true);
   const QSize room = viewport()->size();
   scale_ = std::max(kSmallest * kPixelsPerPoint, ScaleFor(room));
   const QSizeF page = PageSize();
   const int fitting = static_cast<int>((room.width() - kGap) / (page.width() + kGap));
-  const int most = fit_ == PageFit::PageWidth ? 1 : fit_ == PageFit::TwoPages ? 2 : PageCount();
-  columns_ = std::max(1, std::min(fit_ == PageFit::TwoPages ? 2 : fitting, most));
+  const bool isFitted = choice_ == ZoomChoice::PageWidth || choice_ == ZoomChoice::TwoPages;
+  const int most = choice_ == ZoomChoice::PageWidth ? 1 : 2;
+  columns_ = std::max(1, isFitted ? most : std::min(fitting, PageCount()));
   const int rows = (PageCount() + columns_ - 1) / columns_;
   const double width = kGap + columns_ * (page.width() + kGap);
   const double height = kGap + rows * (page.height() + kGap);
@@ -107,21 +102,21 @@ QRectF PageCanvas::PlaceOf(int index) const {
           page};
 }
 
-int PageCanvas::CurrentPage() const {
-  for (int index = 0; index < PageCount(); ++index) {
-    if (PlaceOf(index).bottom() > viewport()->height() / 3.0) return index + 1;
+/// The one the user is at as long as its row is the first in view, else the first of that row.
+int PageCanvas::PageInView() const {
+  for (int index = 0; index < PageCount(); index += columns_) {
+    if (PlaceOf(index).bottom() < viewport()->height() / 3.0) continue;
+    return (current_ - 1) / columns_ == index / columns_ ? current_ : index + 1;
   }
   return PageCount();
 }
 
 void PageCanvas::GoToPage(int page) {
   if (page < 1 || page > PageCount()) return;
+  const QScopedValueRollback going(going_, true);
+  current_ = page;
   verticalScrollBar()->setValue(verticalScrollBar()->value() + static_cast<int>(PlaceOf(page - 1).top()) - kGap);
-  Tell();
-}
-
-void PageCanvas::Tell() {
-  if (changed) changed();
+  viewport()->update();
 }
 
 void PageCanvas::paintEvent(QPaintEvent* event) {
@@ -131,42 +126,48 @@ void PageCanvas::paintEvent(QPaintEvent* event) {
   for (int index = 0; index < PageCount(); ++index) {
     const QRectF place = PlaceOf(index);
     if (!place.intersects(event->rect())) continue;
-    painter.fillRect(place.translated(2, 2), colours.edge);
+    const bool isCurrent = index + 1 == current_ && PageCount() > 1;
+    painter.fillRect(place.adjusted(-1, -1, 1, 1), isCurrent ? colours.accent : colours.edge);
     painter.fillRect(place, Qt::white);  // paper is white by night as well
     painter.save();
     painter.setClipRect(place);
-    PaintPage(painter, pages_, static_cast<std::size_t>(index), place.topLeft(), scale_);
+    PaintPage(painter, *pages_, static_cast<std::size_t>(index), place.topLeft(), scale_);
     painter.restore();
   }
 }
 
 void PageCanvas::resizeEvent(QResizeEvent* event) {
-  const int page = CurrentPage();
   QAbstractScrollArea::resizeEvent(event);
   Arrange();
-  if (fit_ != PageFit::Percent) GoToPage(page);
-  Tell();
+  GoToPage(current_);
 }
 
 void PageCanvas::scrollContentsBy(int, int) {
   viewport()->update();
-  Tell();
+  if (!going_ && PageInView() != current_) Turn(PageInView());
+}
+
+void PageCanvas::Turn(int page) {
+  current_ = page;
+  if (turned) turned();
 }
 
 void PageCanvas::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Home:
-      return GoToPage(1);
+      GoToPage(1);
+      return Turn(1);
     case Qt::Key_End:
-      return GoToPage(PageCount());
+      GoToPage(PageCount());
+      return Turn(PageCount());
     case Qt::Key_PageDown:
       return verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd);
     case Qt::Key_PageUp:
       return verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepSub);
     case Qt::Key_Plus:
-      return ZoomBy(kWheelStep);
+      return zoomed(kZoomStep);
     case Qt::Key_Minus:
-      return ZoomBy(1 / kWheelStep);
+      return zoomed(1 / kZoomStep);
     default:
       QAbstractScrollArea::keyPressEvent(event);
   }
@@ -174,7 +175,7 @@ void PageCanvas::keyPressEvent(QKeyEvent* event) {
 
 void PageCanvas::wheelEvent(QWheelEvent* event) {
   if (!(event->modifiers() & Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(event);
-  ZoomBy(event->angleDelta().y() > 0 ? kWheelStep : 1 / kWheelStep);
+  zoomed(event->angleDelta().y() > 0 ? kZoomStep : 1 / kZoomStep);
   event->accept();
 }
 

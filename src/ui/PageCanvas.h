@@ -1,37 +1,35 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 
 #include <QAbstractScrollArea>
 
-#include "reports/Pages.h"
+#include "reports/Preview.h"
 
 namespace norvane::ui {
-
-/// How large the pages are shown: to fit in one of these ways, or at a percentage of their real size.
-enum class PageFit { WholePage, PageWidth, TwoPages, Thumbnail, Percent };
 
 /// Pages on a table, as many side by side as there is room for, to be scrolled.
 class PageCanvas : public QAbstractScrollArea {
  public:
   explicit PageCanvas(QWidget* parent);
 
-  void SetPages(pages::Pages pages);
-  const pages::Pages& Document() const { return pages_; }
-  int PageCount() const { return static_cast<int>(pages_.pages.size()); }
+  /// The pages are not owned and have to stay until others are shown; nothing shows none.
+  void Show(const pages::Pages* pages);
+  int PageCount() const { return pages_ ? static_cast<int>(pages_->pages.size()) : 0; }
 
-  void SetFit(PageFit fit, int percent = 100);
-  PageFit Fit() const { return fit_; }
-  /// The scale in percent that is in force, whatever the fit.
-  int Percent() const;
-  void ZoomBy(double factor);
+  /// `percent` counts at ZoomChoice::Percent alone.
+  void SetZoom(ZoomChoice choice, double percent);
+  /// The scale in percent that is in force, whatever the choice.
+  double Percent() const;
 
-  /// The first page in view, counted from 1; 0 if there is none.
-  int CurrentPage() const;
+  /// The page that the user is at, counted from 1; 0 if there is none.
+  int CurrentPage() const { return std::min(current_, PageCount()); }
   void GoToPage(int page);
 
-  /// Told of another scale, current page or count of pages.
-  std::function<void()> changed;
+  /// The user has turned to another page, or wants the pages larger or smaller by a factor.
+  std::function<void()> turned;
+  std::function<void(double factor)> zoomed;
 
   QSize sizeHint() const override { return {560, 520}; }
 
@@ -47,17 +45,19 @@ class PageCanvas : public QAbstractScrollArea {
  private:
   void Arrange();
   double ScaleFor(QSize room) const;
-  int Columns() const { return columns_; }
+  int PageInView() const;
+  void Turn(int page);
   /// Where a page stands in the viewport now.
   QRectF PlaceOf(int index) const;
   QSizeF PageSize() const;
-  void Tell();
 
-  pages::Pages pages_;
-  PageFit fit_ = PageFit::Percent;
-  double wanted_ = 1;  ///< at PageFit::Percent; 1 is real size
-  double scale_ = 1;   ///< pixels to a point
+  const pages::Pages* pages_ = nullptr;
+  ZoomChoice choice_ = ZoomChoice::Percent;
+  double percent_ = 100;
+  double scale_ = 1;  ///< pixels to a point
   int columns_ = 1;
+  int current_ = 1;
+  bool going_ = false;  ///< scrolling by our own will, which turns no page
   QPoint dragged_;
 };
 

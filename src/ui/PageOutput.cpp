@@ -14,6 +14,7 @@
 #include <QStandardPaths>
 
 #include "forms/Desktop.h"
+#include "reports/Preview.h"
 #include "ui/PagePainter.h"
 
 namespace norvane::ui {
@@ -29,9 +30,10 @@ QPageLayout LetterPortrait() {
 class PrintProgress : public QProgressDialog {
  public:
   PrintProgress(const QString& title, const QString& printer, int count, QWidget* parent)
-      : QProgressDialog(parent), device_(QString::asprintf("on the %s on %s", qPrintable(title), qPrintable(printer))) {
-    setWindowTitle("Printing...");
-    setCancelButtonText("Cancel");
+      : QProgressDialog(parent),
+        device_(QString::asprintf(kPrintingDevice, title.toUtf8().constData(), printer.toUtf8().constData())) {
+    setWindowTitle(kPrintingCaption);
+    setCancelButtonText(kPrintingCancel);
     setRange(0, count);
     setWindowModality(Qt::ApplicationModal);
     setMinimumDuration(0);
@@ -39,7 +41,7 @@ class PrintProgress : public QProgressDialog {
   }
 
   bool Go(int done, int page, std::size_t pages) {
-    setLabelText(QString::asprintf("Now printing Page %d of", page) + QString(" %1\n").arg(pages) + device_);
+    setLabelText(QString::asprintf(kPrintingPage, page) + QString(" %1\n").arg(pages) + device_);
     setValue(done);
     QApplication::processEvents();
     return !wasCanceled();

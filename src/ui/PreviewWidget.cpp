@@ -1,52 +1,81 @@
 #include "ui/PreviewWidget.h"
 
+#include <cmath>
+
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
-#include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/Convert.h"
 #include "ui/PageOutput.h"
 #include "ui/StripLayout.h"
 #include "ui/Theme.h"
+#include "ui/WidgetFactory.h"
 
 namespace norvane::ui {
 namespace {
 
-/// In the order of PageFit.
-constexpr const char* kZoomChoices = "Whole &Page|Page &Width|&Two Pages|Thumb&nail";
 constexpr int kPercentages[] = {50, 75, 100, 125, 150, 200};
 
-QStringList ZoomChoices() {
+QStringList ZoomTexts() {
   return QString(kZoomChoices).split('|');
+}
+
+/// The choices stand in the order of their texts, behind Percent.
+ZoomChoice ChoiceOfText(int index) {
+  return static_cast<ZoomChoice>(index + 1);
 }
 
 }  // namespace
 
-PreviewWidget::PreviewWidget(QWidget* parent) : QFrame(parent), canvas_(new PageCanvas(this)), bar_(new QFrame(this)) {
+PreviewWidget::PreviewWidget(Preview& preview, QWidget* parent)
+    : QFrame(parent), preview_(&preview), bar_(new QFrame(this)), canvas_(new PageCanvas(this)) {
   setProperty("preview", true);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(1, 1, 1, 1);
   column->setSpacing(0);
   column->addWidget(bar_);
   column->addWidget(canvas_, 1);
+  setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(canvas_);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   BuildBar();
-  canvas_->changed = [this] { FollowCanvas(); };
-  FollowCanvas();
+  preview.SetFontMetrics(&metrics_);
+  binding_ = new Binding(preview, *this, [this](Aspect aspect) { Follow(aspect); });
+  connect(binding_, &QObject::destroyed, this, [this] {
+    canvas_->Show(nullptr);
+    preview_->SetFontMetrics(nullptr);
+    preview_ = nullptr;
+  });
+  canvas_->turned = [this] {
+    Act([this](Preview& turned) {
+      if (turned.CurrentPage() != canvas_->CurrentPage()) turned.SetCurrentPage(canvas_->CurrentPage());
+    });
+  };
+  canvas_->zoomed = [this](double factor) {
+    Act([&](Preview& zoomed) { zoomed.SetZoom(std::round(canvas_->Percent() * factor)); });
+  };
+  Follow(Aspect::Pages);
 }
 
-QToolButton* PreviewWidget::AddTool(const char* icon, const QString& name, const std::function<void()>& action) {
-  auto* tool = new QToolButton(bar_);
+void PreviewWidget::Act(const std::function<void(Preview&)>& action) {
+  if (preview_) action(*preview_);
+}
+
+QPushButton* PreviewWidget::AddTool(const char* icon, const QString& name,
+                                    const std::function<void(Preview&)>& action) {
+  auto* tool = new QPushButton(bar_);
   tool->setIcon(NamedIcon(icon));
   tool->setIconSize({18, 18});
-  tool->setAutoRaise(true);
+  tool->setProperty("picture", true);
+  tool->setFocusPolicy(Qt::TabFocus);
   tool->setToolTip(name);
   tool->setAccessibleName(name);
-  connect(tool, &QToolButton::clicked, this, action);
+  connect(tool, &QPushButton::clicked, this, [this, action] { Act(action); });
   bar_->layout()->addWidget(tool);
   return tool;
 }
@@ -54,59 +83,66 @@ QToolButton* PreviewWidget::AddTool(const char* icon, const QString& name, const
 void PreviewWidget::BuildBar() {
   bar_->setProperty("strip", "top");
   auto* strip = new StripLayout(bar_);
-  strip->setContentsMargins(6, 3, 6, 3);
-  first_ = AddTool("first", "First Page", [this] { canvas_->GoToPage(1); });
-  previous_ = AddTool("previous", "Previous Page", [this] { canvas_->GoToPage(canvas_->CurrentPage() - 1); });
+  strip->setContentsMargins(4, 2, 4, 2);
+  const auto turn = [](int step) { return [step](Preview& p) { p.SetCurrentPage(p.CurrentPage() + step); }; };
+  first_ = AddTool("first", "First Page", [](Preview& p) { p.SetCurrentPage(1); });
+  previous_ = AddTool("previous", "Previous Page", turn(-1));
   page_ = new QSpinBox(bar_);
   page_->setButtonSymbols(QSpinBox::NoButtons);
   page_->setAlignment(Qt::AlignCenter);
   page_->setFixedWidth(46);
   page_->setAccessibleName("Page");
   page_->setKeyboardTracking(false);
-  connect(page_, &QSpinBox::valueChanged, this, [this](int page) { canvas_->GoToPage(page); });
+  connect(page_, &QSpinBox::valueChanged, this, [this](int page) { Act([&](Preview& p) { p.SetCurrentPage(page); }); });
   strip->addWidget(page_);
   count_ = new QLabel(bar_);
   strip->addWidget(count_);
-  next_ = AddTool("next", "Next Page", [this] { canvas_->GoToPage(canvas_->CurrentPage() + 1); });
-  last_ = AddTool("last", "Last Page", [this] { canvas_->GoToPage(canvas_->PageCount()); });
-  zoom_ = AddTool("zoom-in", "Zoom", [] {});
-  zoom_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  zoom_->setPopupMode(QToolButton::InstantPopup);
-  zoom_->setMenu(BuildZoomMenu());
+  next_ = AddTool("next", "Next Page", turn(1));
+  last_ = AddTool("last", "Last Page", [](Preview& p) { p.SetCurrentPage(p.PageCount()); });
+  BuildZoomButton();
   strip->AddStretch();
-  print_ = AddTool("print", "Print", [this] { PrintPages(canvas_->Document(), title_, window()); });
+  print_ = AddTool("print", "Print", [this](Preview& p) { PrintPages(p.Pages(), ToQt(p.Title()), window()); });
   print_->setShortcut(QKeySequence::Print);
-  save_ = AddTool("pdf", "Save as PDF", [this] { SavePagesAsPdf(canvas_->Document(), title_, window()); });
+  save_ = AddTool("pdf", "Save as PDF", [this](Preview& p) { SavePagesAsPdf(p.Pages(), ToQt(p.Title()), window()); });
   save_->setShortcut(QKeySequence::Save);
 }
 
-QMenu* PreviewWidget::BuildZoomMenu() {
+void PreviewWidget::BuildZoomButton() {
+  zoom_ = new QPushButton(bar_);
+  zoom_->setToolTip("Zoom");
+  zoom_->setAccessibleName("Zoom");
   auto* menu = new QMenu(zoom_);
-  int fit = 0;
-  for (const auto& choice : ZoomChoices()) {
-    menu->addAction(choice, this, [this, way = static_cast<PageFit>(fit++)] { canvas_->SetFit(way); });
+  int index = 0;
+  for (const auto& text : ZoomTexts()) {
+    const ZoomChoice choice = ChoiceOfText(index++);
+    menu->addAction(text, this, [this, choice] { Act([&](Preview& p) { p.SetChoice(choice); }); });
   }
   menu->addSeparator();
   for (const int percent : kPercentages) {
-    menu->addAction(QString("%1 %").arg(percent), this,
-                    [this, percent] { canvas_->SetFit(PageFit::Percent, percent); });
+    const QString text = QString("%1 %").arg(percent);
+    menu->addAction(text, this, [this, percent] { Act([&](Preview& p) { p.SetZoom(percent); }); });
   }
-  return menu;
+  zoom_->setMenu(menu);
+  zoom_->setMinimumWidth(124);
+  bar_->layout()->addWidget(zoom_);
 }
 
-void PreviewWidget::ShowPages(pages::Pages pages, const QString& title, int percent) {
-  title_ = title;
-  canvas_->SetFit(PageFit::Percent, percent);
-  canvas_->SetPages(std::move(pages));
+void PreviewWidget::Follow(Aspect aspect) {
+  if (aspect == Aspect::Pages) canvas_->Show(&preview_->Pages());
+  if (aspect == Aspect::Pages || aspect == Aspect::State) {
+    canvas_->SetZoom(preview_->Choice(), preview_->Zoom());
+    if (canvas_->CurrentPage() != preview_->CurrentPage()) canvas_->GoToPage(preview_->CurrentPage());
+  }
+  FollowBar();
 }
 
 QString PreviewWidget::ZoomText() const {
-  if (canvas_->Fit() == PageFit::Percent) return QString("%1 %").arg(canvas_->Percent());
-  QString choice = ZoomChoices().at(static_cast<int>(canvas_->Fit()));
-  return choice.remove('&');
+  if (preview_->Choice() == ZoomChoice::Percent) return QString("%1 %").arg(preview_->Zoom());
+  QString text = ZoomTexts().at(static_cast<int>(preview_->Choice()) - 1);
+  return text.remove('&');
 }
 
-void PreviewWidget::FollowCanvas() {
+void PreviewWidget::FollowBar() {
   const int count = canvas_->PageCount();
   const int current = canvas_->CurrentPage();
   const QSignalBlocker quiet(page_);
@@ -120,6 +156,11 @@ void PreviewWidget::FollowCanvas() {
   last_->setEnabled(current < count);
   print_->setEnabled(count > 0);
   save_->setEnabled(count > 0);
+}
+
+void RegisterPreview(WidgetFactory& factory) {
+  factory.Register<Preview>(
+      [](Preview& preview, QWidget* parent) { return (new PreviewWidget(preview, parent))->Bound(); });
 }
 
 }  // namespace norvane::ui

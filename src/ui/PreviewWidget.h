@@ -2,40 +2,49 @@
 
 #include <QFrame>
 
-#include "reports/Pages.h"
+#include "ui/Binding.h"
 #include "ui/PageCanvas.h"
+#include "ui/PageFonts.h"
 
 class QLabel;
 class QMenu;
+class QPushButton;
 class QSpinBox;
-class QToolButton;
 
 namespace norvane::ui {
 
-/// A document to look at, page by page, and to print or save: the page bar above the pages.
+class WidgetFactory;
+
+/// A report's document to look at, page by page, and to print or save: the page bar above the pages.
 class PreviewWidget : public QFrame {
  public:
-  explicit PreviewWidget(QWidget* parent);
-
-  /// `title` names the document to the printer and in a PDF.
-  void ShowPages(pages::Pages pages, const QString& title, int percent);
-  PageCanvas& Canvas() { return *canvas_; }
+  PreviewWidget(Preview& preview, QWidget* parent);
+  Binding* Bound() const { return binding_; }
+  const PageCanvas& Canvas() const { return *canvas_; }
 
  private:
-  QToolButton* AddTool(const char* icon, const QString& name, const std::function<void()>& action);
+  QPushButton* AddTool(const char* icon, const QString& name, const std::function<void(Preview&)>& action);
   void BuildBar();
-  QMenu* BuildZoomMenu();
-  void FollowCanvas();
+  void BuildZoomButton();
+  void Follow(Aspect aspect);
+  void FollowBar();
   QString ZoomText() const;
+  /// What the user does to the preview; nothing once its form is no more.
+  void Act(const std::function<void(Preview&)>& action);
 
-  PageCanvas* canvas_;
+  Preview* preview_;
+  const QtFontMetrics metrics_;
   QFrame* bar_;
+  PageCanvas* canvas_;
+  Binding* binding_;
   QSpinBox* page_ = nullptr;
   QLabel* count_ = nullptr;
-  QToolButton* zoom_ = nullptr;
-  QToolButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
-  QToolButton *print_ = nullptr, *save_ = nullptr;
-  QString title_;
+  QPushButton* zoom_ = nullptr;
+  QPushButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
+  QPushButton *print_ = nullptr, *save_ = nullptr;
 };
+
+/// Registers the preview, which the reports bring with them.
+void RegisterPreview(WidgetFactory& factory);
 
 }  // namespace norvane::ui

@@ -19,6 +19,7 @@
 #include "ui/Convert.h"
 #include "ui/FormWindow.h"
 #include "ui/HelpViewer.h"
+#include "ui/PreviewWidget.h"
 
 namespace norvane::ui {
 namespace {
@@ -80,12 +81,20 @@ std::filesystem::path ToPath(const QString& path) {
   return {path.toStdU16String()};
 }
 
+/// The folder asked for, or the one of its name that was installed: a folder of the user's own holds data alone.
+std::filesystem::path HelpPages(const std::filesystem::path& folder) {
+  if (std::filesystem::exists(folder)) return folder;
+  const QString name = QString::fromStdU16String(folder.filename().u16string());
+  return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, name, QStandardPaths::LocateDirectory));
+}
+
 }  // namespace
 
 QtDesktop::QtDesktop(RegionalSettings settings, Theme theme) {
   QApplication::setQuitOnLastWindowClosed(false);
   ApplyTheme(*qApp, theme);
   RegisterStandardWidgets(widgets_, settings);
+  RegisterPreview(widgets_);
 }
 
 QtDesktop::~QtDesktop() {
@@ -218,8 +227,9 @@ void QtDesktop::SetMousePointer(MousePointer pointer) {
 }
 
 void QtDesktop::ShowHelp(const std::filesystem::path& folder) {
-  if (!std::filesystem::exists(folder / HelpViewer::kFirstPage)) Raise(ErrorNumber::FileNotFound);
-  if (!help_) help_ = new HelpViewer(folder);
+  const auto pages = HelpPages(folder);
+  if (!std::filesystem::exists(pages / HelpViewer::kFirstPage)) Raise(ErrorNumber::FileNotFound);
+  if (!help_) help_ = new HelpViewer(pages);
   help_->showMaximized();
   help_->raise();
   help_->activateWindow();

@@ -29,6 +29,7 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kIconSize = 22;
+constexpr int kButtonWidth = 84;   // buttons of short captions are alike
 constexpr int kInputPadding = 20;  // border and padding of the style sheet, both sides
 
 int WidthOf(const QWidget& widget, int characters) {
@@ -108,7 +109,7 @@ Binding* MakeTextBox(TextBox& box, QWidget* parent) {
 Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent) {
   auto* widget = new QLineEdit(parent);
   widget->setInputMask("99/99/99;_");
-  widget->setFixedWidth(WidthOf(*widget, 9));
+  widget->setFixedWidth(WidthOf(*widget, 8));
   auto* binding = new Binding(box, *widget, [&box, widget](Aspect) {
     if (widget->displayText() != ToQt(box.Text())) widget->setText(ToQt(box.Text()));
   });
@@ -135,7 +136,11 @@ Binding* MakeButton(Button& button, QWidget* parent) {
   widget->setProperty("picture", isPicture);
   if (isPicture) widget->setAccessibleName(ToQt(button.ToolTip()));
   if (!isPicture) widget->setIconSize({kIconSize - 6, kIconSize - 6});
-  auto* binding = new Binding(button, *widget, [&button, widget](Aspect) { widget->setText(ToQt(button.Caption())); });
+  widget->ensurePolished();
+  auto* binding = new Binding(button, *widget, [&button, widget](Aspect) {
+    widget->setText(ToQt(button.Caption()));
+    if (!button.Caption().empty()) widget->setMinimumWidth(std::max(kButtonWidth, widget->sizeHint().width()));
+  });
   QObject::connect(widget, &QPushButton::clicked, binding, [&button] { button.Press(); });
   return binding;
 }
@@ -200,7 +205,7 @@ Binding* MakeDatePicker(DatePicker& picker, QWidget* parent, const QString& form
   widget->setCalendarPopup(true);
   widget->setDisplayFormat(format);
   widget->setFocusPolicy(Qt::StrongFocus);
-  widget->setMinimumWidth(WidthOf(*widget, 12) + kInputPadding);
+  widget->setMinimumWidth(WidthOf(*widget, 10) + kInputPadding);
   IgnoreStrayWheel(*widget);
   LeaveByTab(*widget, picker.Parent());
   auto* binding = new Binding(picker, *widget, [&picker, widget](Aspect) {

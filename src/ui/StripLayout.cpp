@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QLabel>
 #include <QWidget>
 
 namespace norvane::ui {
@@ -16,6 +17,14 @@ int HeightOf(const QList<QLayoutItem*>& line) {
 /// What an item takes: labels and fields never less than they need.
 QSize NeedOf(const QLayoutItem& item) {
   return item.sizeHint().expandedTo(item.minimumSize()).boundedTo(item.maximumSize());
+}
+
+/// Goes on in a new line. A label goes along with the field that follows it.
+void Break(QList<QList<QLayoutItem*>>& lines) {
+  QList<QLayoutItem*>& full = lines.back();
+  QList<QLayoutItem*> next;
+  if (full.size() > 1 && qobject_cast<QLabel*>(full.back()->widget())) next.append(full.takeLast());
+  lines.append(next);
 }
 
 }  // namespace
@@ -46,8 +55,7 @@ QList<StripLayout::Line> StripLayout::LinesFor(int width) const {
   QList<Line> lines{{}};
   for (auto* item : items_) {
     if (item->isEmpty() && !item->spacerItem()) continue;
-    if (!lines.back().isEmpty() && WidthOf(lines.back()) + spacing() + NeedOf(*item).width() > width)
-      lines.append(Line());
+    if (!lines.back().isEmpty() && WidthOf(lines.back()) + spacing() + NeedOf(*item).width() > width) Break(lines);
     lines.back().append(item);
   }
   return lines;

@@ -1,10 +1,9 @@
 // The list of payments: what filling the grid costs above reading the rows, and whether scrolling minds the length.
 
 #include <benchmark/benchmark.h>
-#include <ctime>
-#include <stdexcept>
 #include <string>
 
+#include "EmptyDesktop.h"
 #include "core/store/Recordset.h"
 #include "data/Invoice.h"
 #include "forms/Program.h"
@@ -15,27 +14,6 @@
 
 namespace norvane {
 namespace {
-
-/// Nobody looks and nobody answers; a box ends the bench.
-class EmptyDesktop : public Desktop {
- public:
-  Date Now() const override { return Date::FromYearMonthDay(2026, 11, 22); }
-  Answer Ask(const Message& message) override { throw std::runtime_error(message.text); }
-  void FormShown(Form&) override {}
-  void FormHidden(Form&) override {}
-  void FormDestroyed(Form&) override {}
-  void RunModal(Form&) override {}
-  void Quit() override {}
-  void Repaint(Form*) override {}
-  void DoEvents() override {}
-  void Wait(double) override {}
-  void TimerChanged(Timer&) override {}
-  void SetMousePointer(MousePointer) override {}
-  void ShowHelp(const std::filesystem::path&) override {}
-  std::filesystem::path DocumentsFolder() const override { return {}; }
-  std::filesystem::path CurrentFolder() const override { return {}; }
-  std::vector<std::filesystem::path> Drives() const override { return {}; }
-};
 
 /// The payments screen over so many payments of all clients.
 struct Cashbook {
@@ -64,13 +42,6 @@ struct Cashbook {
   EmptyDesktop desktop;
   Program program{desktop, RegionalSettings{}, database.Folder()};
 };
-
-/// Of the processor, so that a busy machine doesn't count.
-double Seconds(const auto& work) {
-  const std::clock_t start = std::clock();
-  work();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 /// `ratio` is the whole reload to the reading alone.
 void Reload(benchmark::State& state) {

@@ -12,10 +12,11 @@ namespace norvane {
 CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Client Sales"}) {
   using namespace layout;
   Frame3.SetWidth(1050);
-  SetLayout(Column({Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts,
-                                         Space(), Group(Frame3, Strip({btnInventory, btnExit}))})),
-                    Group(Frame1, Strip({Label4, CmbInvoice, Label2, Row({txtSinceDate, DTPicker1}), btnGo, Space()})),
-                    Stretch(InvoiceList), Strip({Space(), Label3, lblBalDue})}));
+  SetLayout(Column(
+      {Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts, Space(),
+                            Group(Frame3, Strip({btnInventory, btnExit}))})),
+       Group(Frame1, Strip({Row({Label4, CmbInvoice}), Row({Label2, Row({txtSinceDate, DTPicker1}), btnGo}), Space()})),
+       Stretch(InvoiceList), Strip({Space(), Label3, lblBalDue})}));
   SetExitButton(btnExit);
   btnDetails.Click = [this] { InvoiceList_DblClick(); };
   btnNewInvoice.Click = [this] { StartNewInvoice(program); };

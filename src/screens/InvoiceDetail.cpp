@@ -11,7 +11,7 @@
 namespace norvane {
 
 InvoiceDetail::InvoiceDetail(Program& host)
-    : Form(host, kName, {.caption = "Invoice Details", .width = 9600, .height = 8100}),
+    : Form(host, kName, {.caption = "Invoice Details", .width = 15300, .height = 8700}),
       rows_(ItemList, globals, desktop,
             {.labels = {.setOldRowStatus = "InvoiceDetail.SetOldRowStatus -",
                         .setNewRowStatus = "InvoiceDetail.SetNewRowStatus -",

@@ -11,7 +11,6 @@ int main(int argc, char** argv) {
   const char* const startedAs = argv[0];
   QApplication application(argc, argv);
   QApplication::setApplicationName("norvanes");
-  QApplication::setApplicationDisplayName(norvane::kApplicationTitle);
   QApplication::setDesktopFileName("norvanes");
   QApplication::setWindowIcon(QIcon(":/norvanes/pictures/norvanes.svg"));
 

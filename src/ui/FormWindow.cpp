@@ -23,6 +23,7 @@ constexpr Twips kFrameWidth = 120;
 constexpr Twips kFrameHeight = 405;
 constexpr Twips kMenuHeight = 285;
 constexpr int kNoticeMargin = 16;
+constexpr int kCascade = 28;
 
 }  // namespace
 
@@ -142,13 +143,17 @@ void FormWindow::TakeFirstPlace(QWidget* owner) {
     adjustSize();
     TellSize();
   }
-  if (form_->Left() == 0 && form_->Top() == 0) {
-    const QRect around =
-        owner && owner->isVisible() ? owner->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
-    const QPoint corner = around.center() - QPoint(width() / 2, height() / 2);
-    move(std::max(0, corner.x()), std::max(0, corner.y()));
-  }
   FollowPlace();
+  if (form_->Left() == 0 && form_->Top() == 0) move(PlaceBeside(owner && owner->isVisible() ? owner : nullptr));
+}
+
+/// In the middle of its owner or of the screen; beside the owner's corner where that would lead off the screen.
+QPoint FormWindow::PlaceBeside(const QWidget* owner) const {
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  const QRect around = owner ? owner->frameGeometry() : room;
+  const QPoint middle = around.center() - QPoint(width() / 2, height() / 2);
+  if (room.contains(middle)) return middle;
+  return owner ? owner->pos() + QPoint(kCascade, kCascade) : room.topLeft();
 }
 
 Twips FormWindow::FrameHeight() const {
@@ -163,7 +168,7 @@ QSize FormWindow::SizeOfForm() const {
 void FormWindow::FollowPlace() {
   if (isMaximized() || isMinimized()) return;
   const QScopedValueRollback following(following_, true);
-  if (form_->Width() > 0 && size() != SizeOfForm()) resize(SizeOfForm());
+  if (form_->Width() > 0 && size() != SizeOfForm()) resize(SizeOfForm().expandedTo(minimumSizeHint()));
   const QPoint corner(ToPixels(form_->Left()), ToPixels(form_->Top()));
   if (!corner.isNull() && pos() != corner) move(corner);
 }

@@ -44,6 +44,7 @@ class FormWindow : public QMainWindow {
 
   void FollowPlace();
   void TakeFirstPlace(QWidget* owner);
+  QPoint PlaceBeside(const QWidget* owner) const;
   QSize SizeOfForm() const;
   /// What the model counts around the inner area, in twips.
   Twips FrameHeight() const;

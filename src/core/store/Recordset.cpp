@@ -283,7 +283,7 @@ void Recordset::AddNew() {
   state_->adding = true;
 }
 
-void Recordset::SetField(std::string_view name, Value value) {
+void Recordset::SetField(std::string_view name, const Value& value) {
   const int column = state_->ColumnOf(name);
   if (!state_->adding) state_->Row();
   const ResultColumn& field = state_->rows->Columns()[column];

@@ -75,7 +75,7 @@ class Recordset {
   void OpenFabricated();
   void AddNew();
   /// -2147217887 if the text is too long, or a Null, for an appended field.
-  void SetField(std::string_view name, Value value);
+  void SetField(std::string_view name, const Value& value);
   /// Writes what was set since AddNew or the move to this row: into the table if the rows were read with an optimistic
   /// lock, else into memory.
   void Update();

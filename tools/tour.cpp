@@ -137,6 +137,8 @@ int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::s
     fs::create_directories(folder / name);
     for (const Stop* stop : stops) {
       const std::string problem = Visit(*stop, theme, dataFolder, folder / name).Make();
+      // The windows of the visit go now: without an event loop nothing else would ever take them away.
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       if (problem.empty()) continue;
       ++problems;
       std::fprintf(stderr, "%s (%s): %s\n", std::string(stop->picture).c_str(), name, problem.c_str());

@@ -35,7 +35,8 @@ StripLayout::StripLayout(QWidget* parent) : QLayout(parent) {
 }
 
 StripLayout::~StripLayout() {
-  qDeleteAll(items_);
+  // A layout among them takes itself out of the list as it goes.
+  while (!items_.isEmpty()) delete items_.takeFirst();
 }
 
 void StripLayout::AddLayout(QLayout* layout) {

@@ -95,9 +95,11 @@ class StatementTranslator {
     }
     const auto* left = std::get_if<Name>(&binary->left->node);
     const auto* right = std::get_if<Name>(&binary->right->node);
-    if (binary->op == BinaryOperator::Equal && left && right) {
-      scope_.AddEquality(scope_.Resolve(*left), scope_.Resolve(*right));
-    }
+    if (binary->op != BinaryOperator::Equal || !left || !right) return;
+    const ColumnReference a = scope_.Resolve(*left);
+    const ColumnReference b = scope_.Resolve(*right);
+    // Equal texts may differ in case, so the one does not tell how the other is written.
+    if (scope_.TypeOf(a) != FieldType::Text) scope_.AddEquality(a, b);
   }
 
   static bool HasAggregates(const Select& select) {

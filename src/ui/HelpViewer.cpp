@@ -27,6 +27,19 @@ QString TitleOf(const QString& path) {
   return match.hasMatch() ? match.captured(1) : QFileInfo(path).completeBaseName();
 }
 
+/// The pages that a page leads to, in its order.
+QStringList LinksOf(const QString& path) {
+  QFile file(path);
+  static const QRegularExpression link("href=\"([^\"#/:]+\\.html)", QRegularExpression::CaseInsensitiveOption);
+  QStringList names;
+  if (!file.open(QIODevice::ReadOnly)) return names;
+  for (auto match = link.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();) {
+    names.append(match.next().captured(1));
+  }
+  names.removeDuplicates();
+  return names;
+}
+
 }  // namespace
 
 HelpViewer::HelpViewer(const std::filesystem::path& folder)
@@ -51,6 +64,7 @@ HelpViewer::HelpViewer(const std::filesystem::path& folder)
   });
   connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::MarkPage);
   page_->setSource(QUrl::fromLocalFile(QDir(path).filePath(kFirstPage)));
+  page_->setFocus();
   resize(980, 680);
 }
 
@@ -86,8 +100,8 @@ void HelpViewer::ListPages(const QString& folder) {
     item->setData(Qt::UserRole, QUrl::fromLocalFile(path));
   };
   add(kFirstPage);
-  for (const auto& name : pages.entryList({"*.html"}, QDir::Files, QDir::Name)) {
-    if (name != kFirstPage) add(name);
+  for (const auto& name : LinksOf(pages.filePath(kFirstPage))) {
+    if (pages.exists(name)) add(name);
   }
 }
 

@@ -117,14 +117,16 @@ Date QtDesktop::Now() const {
 }
 
 Answer QtDesktop::Ask(const Message& message) {
-  QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text), ButtonsOf(message.buttons),
-                  QApplication::activeWindow());
+  const QPointer<QWidget> asker = QApplication::activeWindow();
+  QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text), ButtonsOf(message.buttons), asker);
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(ButtonOf(message.preselected));
   box.setWindowModality(Qt::ApplicationModal);
   if (message.buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
   const QScopedValueRollback holding(holdTimers_, false);
-  return AnswerOf(box.exec());
+  const Answer answer = AnswerOf(box.exec());
+  if (asker && asker->isVisible()) asker->activateWindow();
+  return answer;
 }
 
 void QtDesktop::FormShown(Form& form) {

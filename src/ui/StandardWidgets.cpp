@@ -106,6 +106,18 @@ Binding* MakeTextBox(TextBox& box, QWidget* parent) {
   return binding;
 }
 
+/// A slash typed behind a lone digit gives that its zero and goes on with the next place.
+void CloseMaskPlace(MaskedBox& box, QLineEdit& widget) {
+  constexpr int kPlace = 3;  // two digits and the slash
+  const int place = std::min(widget.cursorPosition() / kPlace, 2);
+  QStringList places = widget.displayText().split('/');
+  const QString digits = QString(places[place]).remove('_');
+  if (digits.isEmpty()) return;
+  if (digits.size() == 1) places[place] = "0" + digits;
+  box.UserType(FromQt(places.join('/')));
+  widget.setCursorPosition((place + 1) * kPlace);
+}
+
 Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent) {
   auto* widget = new QLineEdit(parent);
   widget->setInputMask("99/99/99;_");
@@ -115,11 +127,14 @@ Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent) {
   });
   QObject::connect(widget, &QLineEdit::textEdited, binding,
                    [&box, widget] { box.UserType(FromQt(widget->displayText())); });
-  new Sieve(*widget, [widget](QEvent& event) {
-    if (event.type() == QEvent::FocusIn)
+  new Sieve(*widget, [&box, widget, bound = QPointer<Binding>(binding)](QEvent& event) {
+    if (event.type() == QEvent::FocusIn) {
       QMetaObject::invokeMethod(
           widget, [widget] { widget->home(false); }, Qt::QueuedConnection);
-    return false;
+    }
+    if (event.type() != QEvent::KeyPress || !bound || static_cast<QKeyEvent&>(event).text() != "/") return false;
+    CloseMaskPlace(box, *widget);
+    return true;
   });
   return binding;
 }

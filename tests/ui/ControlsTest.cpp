@@ -40,6 +40,9 @@ TEST_F(Controls, AMaskedBoxKeepsItsSlashes) {
   EXPECT_EQ(Demo().txtSince.Text(), "11/22/26");
   Demo().txtSince.SetText("");
   EXPECT_EQ(Of<QLineEdit>(Demo().txtSince).displayText(), "__/__/__");
+  Key(Qt::Key_Home);
+  Type("1/12/26");
+  EXPECT_EQ(Demo().txtSince.Text(), "01/12/26") << "a lone digit gets its zero";
 }
 
 TEST_F(Controls, APickerShowsItsDayAndTellsAnother) {

@@ -142,7 +142,8 @@ TEST_F(PagesInWindow, APdfHoldsRealTextItsTitleAndItsFonts) {
   EXPECT_TRUE(info.contains(QRegularExpression("Title: +Client Balances")));
   EXPECT_TRUE(info.contains(QRegularExpression("Pages: +3")));
   EXPECT_TRUE(info.contains("612 x 792 pts"));
-  EXPECT_TRUE(read("pdffonts", {file}).contains(QRegularExpression("yes +(yes|no) +yes"))) << "embedded, and with the text they stand for";
+  EXPECT_TRUE(read("pdffonts", {file}).contains(QRegularExpression("yes +(yes|no) +yes")))
+      << "embedded, and with the text they stand for";
   QFile::remove(file);
 }
 

@@ -56,6 +56,14 @@ class DataTest : public ::testing::Test {
     reporter.reports.clear();
   }
 
+  /// Gives every text of a table its column's name, in quotes and with what would end a statement.
+  void FillTexts(const std::string& table) {
+    for (const std::string& column :
+         database.Rows("select name from pragma_table_info('" + table + "') where type = 'TEXT'")) {
+      database.Execute("update " + table + " set " + column + " = '\"" + column + "\"; --'");
+    }
+  }
+
   /// A day as the tables hold it.
   static std::string Serial(int year, int month, int day) { return std::to_string(Day(year, month, day).Day()); }
   static Date Day(int year, int month, int day) { return Date::FromYearMonthDay(year, month, day); }

@@ -40,18 +40,4 @@ TEST_F(SharedListsTest, SetupReadsTheRateAndTheLookupLists) {
   EXPECT_EQ(engine.OpenConnections(database.File()), 0);
 }
 
-TEST_F(SharedListsTest, WithoutADatabaseEachListReportsAndIsNothing) {
-  std::filesystem::remove(database.File());
-  GetInventory(workspace, 1, 0);
-  SetupInit(workspace);
-  EXPECT_THAT(reporter.reports, ElementsAre(::testing::StartsWith("Inventory.rsInventory -3709 "),
-                                            ::testing::StartsWith("Inventory.rsCategories -3709 "),
-                                            ::testing::StartsWith("cSetup.GetCompanyInfo -3709 "),
-                                            ::testing::StartsWith("cSetup.rsPaymentTypes -3709 "),
-                                            ::testing::StartsWith("cSetup.rsExpenseTypes -3709 "),
-                                            ::testing::StartsWith("cSetup.rsShippingTypes -3709 ")));
-  reporter.reports.clear();
-  EXPECT_FALSE(globals.rsInventory);
-}
-
 }  // namespace norvane::test

@@ -4,41 +4,31 @@
 namespace norvane::test {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class VendorTest : public DataTest {
  protected:
   std::shared_ptr<Vendor> vendor = Opened<Vendor>();
 };
 
-TEST_F(VendorTest, EveryPropertyGoesIntoItsColumnAndComesBack) {
-  const std::vector<std::pair<std::string, std::string Vendor::*>> texts = {
-      {"Company", &Vendor::Company}, {"Address1", &Vendor::Address1}, {"Address2", &Vendor::Address2},
-      {"City", &Vendor::City},       {"State", &Vendor::State},       {"ZipCode", &Vendor::ZipCode},
-      {"Phone", &Vendor::Phone},     {"CelPhone", &Vendor::CelPhone}, {"Fax", &Vendor::Fax},
-      {"Email", &Vendor::Email},     {"WebPage", &Vendor::WebPage},   {"Notes", &Vendor::Notes},
-      {"POnum", &Vendor::POnum}};
-  for (const auto& [column, property] : texts) (*vendor).*property = column + "!";
-  vendor->VendorNum = 1001;
-  vendor->Discount = 2.5;
-  vendor->SaveVendorAccess(1001);
-
-  const auto other = Opened<Vendor>();
-  other->CardNum1 = "kept";
-  other->GetVendor("COMPANY!");
-  EXPECT_EQ(other->VendorNum, 1001);
-  EXPECT_EQ(other->Discount, 2.5);
-  EXPECT_EQ(other->CardNum1, "kept");
-  for (const auto& [column, property] : texts) {
-    EXPECT_EQ((*other).*property, column + "!");
-    EXPECT_EQ(database.Cell("select " + column + " from tb_Vendor"), column + "!");
+TEST_F(VendorTest, EveryColumnComesAndGoesBack) {
+  database.Execute("insert into tb_Vendor (VendorNum, Discount) values (1001, 2.5)");
+  FillTexts("tb_Vendor");
+  const std::string row = database.Rows("select * from tb_Vendor")[0];
+  vendor->CardNum1 = "kept";
+  vendor->GetVendor("\"COMPANY\"; --");
+  EXPECT_EQ(vendor->Discount, 2.5);
+  for (const auto& [column, property] : {std::pair{"State", vendor->State}, {"Fax", vendor->Fax}}) {
+    EXPECT_EQ(property, "\"" + std::string(column) + "\"; --");
   }
+  vendor->VendorNum = 1003;
+  vendor->SaveVendorAccess(1);
+  EXPECT_THAT(database.Rows("select * from tb_Vendor"), ElementsAre(row, "1003" + row.substr(4)));
 
-  other->GetVendor("nobody");
-  EXPECT_EQ(other->VendorNum, 1002);
-  EXPECT_EQ(other->Discount, 0);
-  EXPECT_EQ(other->CardNum1, "kept");
-  for (const auto& [column, property] : texts) EXPECT_EQ((*other).*property, "") << column;
+  vendor->GetVendor("nobody");
+  vendor->SaveVendorAccess(1001);
+  EXPECT_THAT(database.Rows("select * from tb_Vendor"),
+              ElementsAre("1003" + row.substr(4), "1004" + std::string(14, '|') + "0.0"));
+  EXPECT_EQ(vendor->CardNum1, "kept");
 }
 
 TEST_F(VendorTest, WhatFailsLeavesTheProperties) {
@@ -79,15 +69,6 @@ TEST_F(VendorTest, DeletingTakesTheCompanysLedgerUnlessItCannotBeTold) {
   EXPECT_THAT(database.Rows("select VendorNum from tb_Vendor"), ElementsAre("1002"));
 }
 
-TEST_F(VendorTest, ARefusedSaveLosesTheRow) {
-  database.Execute("insert into tb_Vendor (VendorNum, Company) values (1001, 'Acme')");
-  vendor->VendorNum = 1001;
-  vendor->Company = "O'Hara";
-  vendor->SaveVendorAccess(1001);
-  ExpectReport("Vendor.SaveVendorAccess -", kSyntaxError);
-  EXPECT_THAT(database.Rows("select * from tb_Vendor"), IsEmpty());
-}
-
 class LedgerTest : public VendorTest {
  protected:
   void SetUp() override {
@@ -96,9 +77,6 @@ class LedgerTest : public VendorTest {
         "(1, 45000, '20', 'Acme', 300000, 0, 'Rent', 0, 'a'), (2, 45000, '10', 'Bell', 10000, -1, 'Rent', 0, 'b'),"
         "(3, 45001, 'ATM', 'Acme', 5, 0, 'Phone', 0, 'A'), (4, 44000, '', 'Acme', 10000, 0, 'Rent', 0, 'a'),"
         "(5, 45009, '', '', 0, -1, 'Rent', 1000000, 'a'), (6, 44000, '', '', 0, 0, '', 1, '')");
-  }
-  std::vector<std::string> Selected(const std::string& field, const std::string& value) {
-    return Rows(vendor->LedgerEntries(field, value, Date(45000)), {"TransNum"});
   }
 };
 
@@ -111,11 +89,14 @@ TEST_F(LedgerTest, BalancesAreDepositsLessPayments) {
 }
 
 TEST_F(LedgerTest, SelectionsShowPaymentsSinceADayButDepositsOfAllTimes) {
-  EXPECT_THAT(Selected("vendor", "all"), ElementsAre("2", "1", "3"));
-  EXPECT_THAT(Selected("VENDOR", "acme"), ElementsAre("1", "3"));
-  EXPECT_THAT(Selected("Category", "Rent"), ElementsAre("2", "1"));
-  EXPECT_THAT(Selected("NOTES", "a"), ElementsAre("1", "3"));
-  EXPECT_THAT(Selected("Deposit", "anything"), ElementsAre("6", "5"));
+  const auto selected = [&](const std::string& field, const std::string& value) {
+    return Rows(vendor->LedgerEntries(field, value, Date(45000)), {"TransNum"});
+  };
+  EXPECT_THAT(selected("vendor", "all"), ElementsAre("2", "1", "3"));
+  EXPECT_THAT(selected("VENDOR", "acme"), ElementsAre("1", "3"));
+  EXPECT_THAT(selected("Category", "Rent"), ElementsAre("2", "1"));
+  EXPECT_THAT(selected("NOTES", "a"), ElementsAre("1", "3"));
+  EXPECT_THAT(selected("Deposit", "anything"), ElementsAre("6", "5"));
   EXPECT_THAT(Rows(vendor->LedgerEntriesAll(), {"TransNum"}), ElementsAre("4", "6", "2", "1", "3", "5"));
 }
 
@@ -144,12 +125,8 @@ TEST_F(LedgerTest, AnEntryIsSavedWithItsNextNumberAndReplacedUnderItsNumber) {
   vendor->SaveLedgerEntry();
   EXPECT_THAT(database.Rows("select * from tb_GL where TransNum > 6"),
               ElementsAre("7|" + Serial(2026, 11, 1) + "|ATM|Acme|12500|0|Rent|0|n"));
-  vendor->LedgerNotes = "it's";
-  vendor->SaveLedgerEntry();
-  ExpectReport("Vendor.SaveLedgerEntry -", kSyntaxError);
-  EXPECT_THAT(database.Rows("select * from tb_GL where TransNum > 6"), IsEmpty());
-  vendor->DeleteLedgerEntry(6);
-  EXPECT_EQ(vendor->NewPayNum(), 6);
+  vendor->DeleteLedgerEntry(7);
+  EXPECT_EQ(vendor->NewPayNum(), 7);
 }
 
 }  // namespace norvane::test

@@ -39,10 +39,7 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
   const Refusal refusals[] = {
       // Apostrophes within texts.
       {"select * from tb_Vendor where Company = 'O'Brien'", MissingOperator("Company = 'O'Brien'")},
-      {"delete * from tb_gl where vendor = 'O'Brien'", MissingOperator("vendor = 'O'Brien'")},
-      {"select * from tb_Client where Lname like 'O'Brien%'", MissingOperator("Lname like 'O'Brien%'")},
       {"Insert into tb_InvCategories (CatNum, Description) values (2,'Men's')", MissingOperator("'Men's')")},
-      {"Insert into tb_PaymentTypes (type) values ('O'Brien')", MissingOperator("'O'Brien')")},
       {"Insert into tb_Vendor (VendorNum, Company, Phone) values (1,'O'Brien','D'Arcy')",
        MissingOperator("'O'Brien','D'Arcy'")},
       {"Insert into tb_Vendor (VendorNum, Company, Phone) values (1,'Boys'','5')", MissingOperator("'Boys'','5')")},
@@ -56,7 +53,6 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
       {"drop table tb_Client",
        "-2147217900 Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'."},
       {"select * from tb_Client; select * from tb_GL", kAfterEnd},
-      {"delete * from tb_Client; drop table tb_GL", kAfterEnd},
       {"select * from tb_Client;;", kAfterEnd},
       {"select * from tb_Client select * from tb_GL", "-2147217900 Syntax error in FROM clause."},
       {"select * from", "-2147217900 Syntax error in FROM clause."},
@@ -76,7 +72,8 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
       {"select * from tb_Nothing",
        "-2147217865 The database engine cannot find the input table or query 'tb_Nothing'.  Make sure it exists and "
        "that its name is spelled correctly."},
-      {"select nothing from tb_Client", kNoValue},
+      {"Select fname, mname, lname from tb_Vendor where VendorNum = 1001", kNoValue},
+      {"SELECT Sum(Amount) AS SumOfPay FROM tb_gl where Vendor='acme'", kNoValue},
       {"select * from tb_Client where CustNum = abc", kNoValue},
       {"select tb_GL.TransNum from tb_Client", kNoValue},
       {"select * from tb_Client order by nothing", kNoValue},
@@ -89,7 +86,8 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
        "your SQL statement."},
 
       // Types.
-      {"select * from tb_GL where cleared = 'True'", kMismatch},
+      {"SELECT * from tb_GL where cleared = 'True' and payment > 0 and [date]>=#1/1/2023# order by [date], checknum",
+       kMismatch},
       {"select * from tb_Client where CustNum = '1001'", kMismatch},
       {"select * from tb_Client where Lname = 5", kMismatch},
       {"select * from tb_GL where [date] = '1/1/2024'", kMismatch},
@@ -109,7 +107,6 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
       {"insert into tb_Inventory (ItemNum, Par) values (,1)", kInsert},
       {"insert into tb_Inventory (ItemNum,) values (1)", kInsert},
       {"insert into tb_Inventory values (1)", kInsert},
-
       {"insert into tb_Inventory (ItemNum, Par, par) values (1,2,3)",
        "-2147217900 Duplicate output destination 'par'."},
 

@@ -16,8 +16,6 @@ class FileTest : public testing::Test {
     return ErrorOf([&] { ConnectionTo(engine, file.string())->Open(); });
   }
 
-  void Write(const fs::path& file, const std::string& content) { std::ofstream(file, std::ios::binary) << content; }
-
   /// The names of the files beside the database.
   std::vector<std::string> Files() const {
     std::vector<std::string> names;
@@ -35,36 +33,26 @@ class FileTest : public testing::Test {
 
 TEST_F(FileTest, ReportsFilesThatItCannotOpen) {
   const fs::path folder = database.Folder();
-  const std::string missing = (folder / "none.mdb").string();
-  EXPECT_EQ(OpeningError(missing), "-2147467259 Could not find file '" + missing + "'.");
-  const std::string nowhere = (folder / "nowhere" / "norvane.mdb").string();
-  EXPECT_EQ(OpeningError(nowhere), "-2147467259 Could not find file '" + nowhere + "'.");
-  EXPECT_EQ(OpeningError(folder), "-2147467259 Could not find file '" + folder.string() + "'.");
-
+  for (const fs::path& none : {folder / "none.mdb", folder / "nowhere" / "norvane.mdb", folder}) {
+    EXPECT_EQ(OpeningError(none), "-2147467259 Could not find file '" + none.string() + "'.");
+  }
   const fs::path bad = folder / "bad.mdb";
+  const std::string unrecognized = "-2147467259 Unrecognized database format '" + bad.string() + "'.";
   for (const std::string& content : {std::string(), std::string("not a database"), std::string(5000, 'x')}) {
-    Write(bad, content);
-    EXPECT_EQ(OpeningError(bad), "-2147467259 Unrecognized database format '" + bad.string() + "'.");
+    std::ofstream(bad, std::ios::binary) << content;
+    EXPECT_EQ(OpeningError(bad), unrecognized);
   }
   EXPECT_THAT(Files(), testing::UnorderedElementsAre("norvane.mdb", "bad.mdb"));
   EXPECT_EQ(engine.OpenConnections(bad), 0);
-}
 
-TEST_F(FileTest, ReportsAFileThatWasCutOff) {
-  fs::resize_file(database.File(), 8192);
-  auto connection = ConnectionTo(engine, database.File().string());
+  fs::copy_file(database.File(), bad, fs::copy_options::overwrite_existing);
+  fs::resize_file(bad, 8192);
+  auto connection = ConnectionTo(engine, bad.string());
   EXPECT_EQ(ErrorOf([&] {
               connection->Open();
               Run(*connection, "select * from tb_GL");
             }),
-            "-2147467259 Unrecognized database format '" + database.File().string() + "'.");
-}
-
-TEST_F(FileTest, FindsTheFileInAnyCase) {
-  for (const char* name : {"norvane.mdb", "Norvane.mdb", "NORvane.mdb"}) {
-    EXPECT_EQ(OpeningError(database.Folder() / name), "") << name;
-  }
-  EXPECT_THAT(Files(), testing::ElementsAre("norvane.mdb"));
+            unrecognized);
 }
 
 TEST_F(FileTest, ReportsAFileThatAnotherHolds) {
@@ -106,7 +94,6 @@ TEST_F(FileTest, LeavesOneFileAndCountsItsConnections) {
   EXPECT_EQ(engine.OpenConnections(database.File()), 1);
   one->Close();
   EXPECT_EQ(engine.OpenConnections(database.File()), 0);
-  EXPECT_EQ(engine.OpenConnections(database.Folder() / "none.mdb"), 0);
   EXPECT_THAT(Files(), testing::ElementsAre("norvane.mdb"));
   EXPECT_EQ(database.Cell("pragma integrity_check"), "ok");
   EXPECT_EQ(database.Cell("pragma journal_mode"), "delete");
@@ -138,16 +125,6 @@ TEST_F(FileTest, RollsBackWhatACrashLeft) {
 TEST_F(FileTest, TellsAFullDiskApart) {
   EXPECT_EQ(norvane::ErrorOf(SQLITE_FULL, "f").Number(), 61);
   EXPECT_EQ(norvane::ErrorOf(SQLITE_IOERR_READ, "f").Text(), "Disk or network error.");
-}
-
-TEST_F(FileTest, DeliversRowsThatEveryScreenNeeds) {
-  for (const auto& [table, rows] : {std::pair{"tb_InvCategories", "1"},
-                                    {"tb_PaymentTypes", "5"},
-                                    {"tb_ExpenseTypes", "8"},
-                                    {"tb_Shipping", "4"},
-                                    {"tb_Company", "0"}}) {
-    EXPECT_EQ(database.Cell(std::string("select count(*) from ") + table), rows) << table;
-  }
 }
 
 TEST_F(FileTest, LearnsTheTablesAnewWhenTheyChange) {

@@ -73,14 +73,6 @@ class GridFormTest : public FormsTest {
   Grid& grid() { return form().grid; }
   Grid& list() { return form().list; }
   void On(const std::string& event, std::function<void()> reaction) { form().reactions[event] = std::move(reaction); }
-  static int NumberOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      return error.Number();
-    }
-    return 0;
-  }
 };
 
 }  // namespace norvane::test

@@ -5,27 +5,19 @@ namespace {
 
 class LifetimeTest : public FormsTest {};
 
-TEST_F(LifetimeTest, ATouchLoadsAndAShowMakesVisible) {
+TEST_F(LifetimeTest, ATouchLoadsAShowMakesVisibleAndUnloadingMakesRoomForANewInstance) {
   Add("A");
-  EXPECT_EQ(program.screens.Find("A"), nullptr);
+  program.screens.Unload("A");
+  EXPECT_THAT(Taken(), IsEmpty()) << "what isn't loaded is neither loaded nor unloaded";
   Touch("A").first.SetText("x");
   EXPECT_THAT(Taken(), ElementsAre("A Load"));
   EXPECT_FALSE(Touch("A").IsVisible());
-
   Show("A");
   EXPECT_THAT(Taken(), ElementsAre("A Resize", "A first.GotFocus"));
   Show("A");
   EXPECT_THAT(Taken(), IsEmpty());
   EXPECT_THAT(desktop.log, ElementsAre("show A", "front A"));
   EXPECT_EQ(Touch("A").first.Text(), "x");
-}
-
-TEST_F(LifetimeTest, UnloadingMakesRoomForANewInstance) {
-  Add("A");
-  program.screens.Unload("A");
-  EXPECT_THAT(Taken(), IsEmpty()) << "what isn't loaded is neither loaded nor unloaded";
-  Show("A").first.SetText("x");
-  Taken();
   program.screens.Unload("A");
   EXPECT_THAT(Taken(), ElementsAre("A Unload", "A Terminate"));
   EXPECT_EQ(Touch("A").first.Text(), "");
@@ -179,14 +171,6 @@ TEST_F(LifetimeTest, HiddenForAMomentEndsNothing) {
   EXPECT_FALSE(desktop.HasQuit());
   Touch("Main").Hide();
   EXPECT_TRUE(desktop.HasQuit());
-}
-
-TEST_F(LifetimeTest, TheFrameClosesAsTheExitButtonDoes) {
-  Add("A", {.press = [](TestForm& form) { form.Unload(); }});
-  Show("A");
-  Taken();
-  Touch("A").UserClose();
-  EXPECT_THAT(log, ElementsAre("A first.LostFocus", "A button.GotFocus", "A button.Click", "A Unload", "A Terminate"));
 }
 
 }  // namespace

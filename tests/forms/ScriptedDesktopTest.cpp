@@ -33,14 +33,5 @@ TEST_F(ScriptedDesktopTest, FailsOnModalFormsThatStandOrCameUnawaited) {
   EXPECT_EQ(program.screens.Find("A"), nullptr);
 }
 
-TEST_F(ScriptedDesktopTest, StepsRunWhileTheProgramWaits) {
-  desktop.DuringWait([this] { log.push_back("during the wait"); });
-  desktop.DuringDoEvents([this] { log.push_back("in the pump"); });
-  desktop.Wait(1);
-  desktop.DoEvents();
-  desktop.DoEvents();
-  EXPECT_THAT(log, ElementsAre("during the wait", "in the pump"));
-}
-
 }  // namespace
 }  // namespace norvane::test

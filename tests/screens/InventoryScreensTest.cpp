@@ -1,158 +1,105 @@
+#include "Office.h"
 #include "core/store/Recordset.h"
 #include "data/Inventory.h"
 #include "screens/InventoryCats.h"
-#include "screens/Office.h"
 #include "screens/frmInventory.h"
-#include "support/Gestures.h"
 
 namespace norvane::test {
 namespace {
 
-using ::testing::ElementsAre;
-
 class InventoryScreens : public Office {
  protected:
-  void Begin() {
-    AddClients();
-    Start();
-    Main().btnInventory.Press();
-  }
-  void AddItems() {
+  void StartWithStock() {
     database.Execute(R"(
       INSERT INTO tb_InvCategories VALUES (2, 'Labor'), (3, 'Hardware');
       INSERT INTO tb_Inventory (ItemNum, CatNum, Description, Charge, Par, InStock, Warranty) VALUES
         (1001, 1, 'Hammer', 125000, 5, 2, '1 year'), (1002, 3, 'Drill', 899900, 2, 4, ''),
         (1003, 1, 'Saw', 80000, 0, 0, NULL);)");
+    StartWithClients();
+    Main().btnInventory.Press();
   }
-  frmInventory& Stock() { return program.screens.Touch<frmInventory>(); }
+  frmInventory& Stock() { return The<frmInventory>(); }
   Grid& List() { return Stock().InventoryList; }
+  std::string Row(int row) { return RowText(List(), row); }
   std::string Item(int number) {
     const auto rows =
         database.Rows("SELECT CatNum, Description, Charge, Par, InStock, Warranty FROM tb_Inventory WHERE ItemNum = " +
                       std::to_string(number));
     return rows.empty() ? "" : rows.front();
   }
-  std::string RowText(int row) {
-    std::string cells;
-    for (int col = 0; col < 7; ++col) cells += (col ? "|" : "") + List().Cell(row, col);
-    return cells;
-  }
+  std::string CountOf(const std::string& table) { return database.Cell("SELECT count(*) FROM " + table); }
 };
 
-TEST_F(InventoryScreens, TheItemsOfACategoryAndABlankRow) {
-  AddItems();
-  Begin();
+TEST_F(InventoryScreens, ANewItemIsStoredOnceItHasItsFourValues) {
+  StartWithStock();
   EXPECT_EQ(Stock().cmbCategory.Text(), "001 General");
   EXPECT_EQ(List().Rows(), 4);
-  EXPECT_EQ(RowText(1), "|1001|Hammer|$12.50|5|2|1 year");
-  EXPECT_EQ(RowText(3), "*||||||");
+  EXPECT_EQ(Row(1), "|1001|Hammer|$12.50|5|2|1 year");
+  EXPECT_EQ(Row(3), "*||||||");
   EXPECT_FALSE(IsOpen("GettingInventory"));
 
-  Stock().cmbCategory.UserPick(1);
-  EXPECT_EQ(globals.CurCatNum, 2);
-  EXPECT_EQ(List().Rows(), 2);
-  EXPECT_EQ(RowText(1), "*||||||");
-}
-
-TEST_F(InventoryScreens, ANewItemIsStoredOnceItHasItsFourValues) {
-  AddItems();
-  Begin();
   Stock().btnNewItem.Press();
   EXPECT_EQ(List().Row(), 3);
   EXPECT_EQ(List().Col(), 2);
-  Type(List(), "Level");
-  List().UserKey(Key::Tab);
-  Type(List(), "19.5");
-  List().UserKey(Key::Tab);
+  TypeCells(List(), {"Level", "19.5", "3"});
   EXPECT_FALSE(globals.RowChanged);
-  Type(List(), "3");
-  List().UserKey(Key::Tab);
   Type(List(), "7");
   List().UserKey(Key::Enter);
   EXPECT_TRUE(globals.RowChanged);
-  EXPECT_EQ(RowText(3), "?|0|Level|$19.50|3|7|");
+  EXPECT_EQ(Row(3), "?|0|Level|$19.50|3|7|");
   EXPECT_EQ(List().Rows(), 5) << "the blank row moves down";
   List().UserKey(Key::Down);
   EXPECT_EQ(Item(1004), "1|Level|195000|3|7|0");
-  EXPECT_EQ(RowText(3), "|1004|Level|$19.50|3|7|0");
-
+  EXPECT_EQ(Row(3), "|1004|Level|$19.50|3|7|0");
   Enter(List(), 3, 5, "6");
   Main().UserActivate();
   EXPECT_EQ(Item(1004), "1|Level|195000|3|6|0") << "saved again under its number";
 }
 
-TEST_F(InventoryScreens, AnItemWithoutStockFiguresIsLostOnReload) {
-  Begin();
-  Enter(List(), 1, 2, "Ladder");
-  Enter(List(), 1, 3, "80");
-  Stock().cmbCategory.SetFocus();
-  EXPECT_EQ(database.Cell("SELECT count(*) FROM tb_Inventory"), "0");
-  EXPECT_EQ(List().Cell(1, 2), "Ladder");
-}
-
-TEST_F(InventoryScreens, WhatIsNoNumberIsReportedWhereItIsRead) {
-  AddItems();
-  Begin();
+TEST_F(InventoryScreens, WhatCannotBeStoredIsReportedUntilItIsMended) {
+  StartWithStock();
   desktop.Expect("frmInventory.InventoryList_AfterEdit -13 Type mismatch");
   Enter(List(), 1, 3, "dear");
   EXPECT_FALSE(globals.RowChanged);
   Enter(List(), 1, 3, "13");
-  Enter(List(), 1, 4, "few");
   desktop.Expect("frmInventory.SaveRow -13 Type mismatch");
-  List().UserKey(Key::Down);
+  EnterAndGoDown(List(), 1, 4, "few");
   EXPECT_TRUE(globals.RowChanged);
   EXPECT_EQ(Item(1001), "1|Hammer|125000|5|2|1 year");
   desktop.Expect("frmInventory.SaveRow -13 Type mismatch");
-  Enter(List(), 1, 4, "4");
-  List().UserKey(Key::Down);
+  EnterAndGoDown(List(), 1, 4, "4");
   EXPECT_EQ(Item(1001), "1|Hammer|130000|4|2|1 year");
-}
 
-TEST_F(InventoryScreens, AnApostropheLosesTheItemUntilItIsSavedWithout) {
-  AddItems();
-  Begin();
-  Enter(List(), 1, 2, "Carpenter's hammer");
   desktop.Expect("Inventory.SaveItemAccess --2147217900");
-  List().UserKey(Key::Down);
+  EnterAndGoDown(List(), 1, 2, "Carpenter's hammer");
   EXPECT_EQ(Item(1001), "");
   EXPECT_EQ(List().Cell(1, 1), "1001");
   Enter(List(), 1, 2, "Carpenters hammer");
-  List().UserKey(Key::Down);
-  EXPECT_EQ(Item(1001), "1|Carpenters hammer|125000|5|2|1 year");
-}
-
-TEST_F(InventoryScreens, APendingRowIsStoredInItsCategoryBeforeTheNextIsShown) {
-  AddItems();
-  Begin();
-  Enter(List(), 1, 4, "9");
+  // A row that waits is stored in its own category before the next one is shown.
   Stock().cmbCategory.UserPick(2);
-  EXPECT_EQ(Item(1001), "1|Hammer|125000|9|2|1 year");
-  EXPECT_EQ(RowText(1), "|1002|Drill|$89.99|2|4|");
+  EXPECT_EQ(Item(1001), "1|Carpenters hammer|130000|4|2|1 year");
+  EXPECT_EQ(Row(1), "|1002|Drill|$89.99|2|4|");
 }
 
 TEST_F(InventoryScreens, AnItemIsDeletedAfterTheQuestionAndItsCategoryStays) {
-  AddItems();
-  Begin();
+  StartWithStock();
   Stock().btnDelete.Press();
   EXPECT_TRUE(desktop.boxes.empty()) << "no row was clicked";
   Stock().cmbCategory.UserPick(2);
   List().UserClick(1, 2);
-  desktop.Expect("Delete Inventory Item Drill ?", Answer::No);
-  Stock().btnDelete.Press();
-  EXPECT_EQ(LastBox().title, "Delete Inventory Item ... Drill?");
+  Press(Stock().btnDelete, "Delete Inventory Item Drill ?", Answer::No);
+  ExpectQuestion("Delete Inventory Item ... Drill?");
   EXPECT_EQ(List().Rows(), 3);
-  desktop.Expect("Delete Inventory Item Drill ?", Answer::Yes);
-  Stock().btnDelete.Press();
+  Press(Stock().btnDelete, "Delete Inventory Item Drill ?", Answer::Yes);
   EXPECT_EQ(Item(1002), "");
   EXPECT_FALSE(globals.InventoryStale);
   EXPECT_EQ(Stock().cmbCategory.Text(), "003 Hardware");
-  EXPECT_EQ(RowText(1), "*||||||");
+  EXPECT_EQ(Row(1), "*||||||");
 }
 
 TEST_F(InventoryScreens, WithoutCategoriesOneIsAskedForFirst) {
   database.Execute("DELETE FROM tb_InvCategories");
-  AddClients();
-  Start();
+  StartWithClients();
   desktop.Expect("No categories for which to enter inventory.");
   desktop.WhenModal<InventoryCats>([](InventoryCats& categories) {
     EXPECT_EQ(categories.InventoryList.Cell(1, 0), "*");
@@ -168,8 +115,7 @@ TEST_F(InventoryScreens, WithoutCategoriesOneIsAskedForFirst) {
 }
 
 TEST_F(InventoryScreens, CategoriesAreEditedAndTakeTheirItemsWithThem) {
-  AddItems();
-  Begin();
+  StartWithStock();
   desktop.Expect("All items in  General will be deleted also.", Answer::No);
   desktop.Expect("All items in  General will be deleted also.", Answer::Yes);
   desktop.WhenModal<InventoryCats>([&](InventoryCats& categories) {
@@ -181,38 +127,23 @@ TEST_F(InventoryScreens, CategoriesAreEditedAndTakeTheirItemsWithThem) {
     EXPECT_EQ(categories.InventoryList.Cell(4, 1), "4");
     categories.InventoryList.UserClick(1, 2);
     categories.btnDelete.Press();
-    EXPECT_EQ(LastBox().title, "Delete Inventory Category ... General?");
-    EXPECT_EQ(database.Cell("SELECT count(*) FROM tb_Inventory"), "3");
+    ExpectQuestion("Delete Inventory Category ... General?");
+    EXPECT_EQ(CountOf("tb_Inventory"), "3");
     categories.btnDelete.Press();
-    EXPECT_EQ(database.Cell("SELECT count(*) FROM tb_Inventory"), "1");
+    EXPECT_EQ(CountOf("tb_Inventory"), "1");
     categories.btnExit.Press();
   });
   Stock().btnCategories.Press();
   EXPECT_THAT(Stock().cmbCategory.Items(), ElementsAre("002 Services", "003 Hardware", "004 Books"));
-  EXPECT_EQ(database.Cell("SELECT count(*) FROM tb_InvCategories"), "3");
+  EXPECT_EQ(CountOf("tb_InvCategories"), "3");
 }
 
 TEST_F(InventoryScreens, ACategoryNumberAboveThreeDigitsLosesItsLast) {
   database.Execute("DELETE FROM tb_InvCategories; INSERT INTO tb_InvCategories VALUES (12345, 'Far')");
-  Begin();
+  StartWithClients();
+  Main().btnInventory.Press();
   EXPECT_EQ(Stock().cmbCategory.Text(), "12345 Far");
   EXPECT_EQ(globals.CurCatNum, 1234);
-}
-
-TEST_F(InventoryScreens, LongNamesAndPastedLinesStayInTheirCell) {
-  AddItems();
-  Begin();
-  const std::string longName(300, 'x');
-  Enter(List(), 1, 2, longName);
-  List().UserKey(Key::Down);
-  EXPECT_EQ(database.Cell("SELECT Description FROM tb_Inventory WHERE ItemNum = 1001"), longName);
-  List().UserClick(1, 2);
-  List().BeginEdit();
-  List().SetEditText("two\nlines\tand a tab");
-  List().CommitEdit();
-  List().UserKey(Key::Down);
-  EXPECT_EQ(database.Cell("SELECT Description FROM tb_Inventory WHERE ItemNum = 1001"), "two lines and a tab");
-  EXPECT_EQ(List().Cols(), 7);
 }
 
 }  // namespace

@@ -10,9 +10,15 @@
 #include "screens/Customer.h"
 #include "screens/Screens.h"
 #include "support/Database.h"
+#include "support/Gestures.h"
 #include "support/ScriptedDesktop.h"
 
 namespace norvane::test {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 
 /// The program at work on a database of its own: a test fills the tables, starts the program, and uses it as a person
 /// does.
@@ -40,11 +46,41 @@ class Office : public ::testing::Test {
     }
   }
   void Start() { program.Start(Customer::kName); }
+  void StartWithClients() {
+    AddClients();
+    Start();
+  }
 
-  Customer& Main() { return program.screens.Touch<Customer>(); }
+  /// The screen of that class, loaded if it isn't.
+  template <class Screen>
+  Screen& The() {
+    return program.screens.Touch<Screen>();
+  }
+  Customer& Main() { return The<Customer>(); }
   bool IsOpen(const char* screen) { return program.screens.Find(screen) != nullptr; }
   void Select(int row) { Main().CustList2.UserClick(row, 2); }
+  int Connections() { return program.engine.OpenConnections(database.File()); }
+
+  /// Presses a button, or chooses a menu's entry, and answers the box that comes.
+  void Press(Button& button, const char* box, Answer answer = Answer::Ok) {
+    desktop.Expect(box, answer);
+    button.Press();
+  }
+  void Choose(MenuEntry& entry, const char* box, Answer answer = Answer::Ok) {
+    desktop.Expect(box, answer);
+    entry.Choose();
+  }
+  void ExpectBoxes(std::initializer_list<const char*> fragments) {
+    for (const char* fragment : fragments) desktop.Expect(fragment);
+  }
   const Message& LastBox() { return desktop.boxes.back(); }
+  /// That the last box was a question under this title, and a hasty Enter answers it with No.
+  void ExpectQuestion(const std::string& title, Buttons buttons = Buttons::YesNo) {
+    EXPECT_EQ(LastBox().title, title);
+    EXPECT_EQ(LastBox().buttons, buttons);
+    EXPECT_EQ(LastBox().icon, Icon::Question);
+    EXPECT_EQ(LastBox().preselected, Answer::No);
+  }
 
   Database database;
   ScriptedDesktop desktop;

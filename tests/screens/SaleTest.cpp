@@ -1,9 +1,8 @@
 #include "SalesOffice.h"
+#include "core/Given.h"
 
 namespace norvane::test {
 namespace {
-
-using ::testing::ElementsAre;
 
 class SaleTest : public SalesOffice {};
 
@@ -11,8 +10,7 @@ class SaleTest : public SalesOffice {};
 TEST_F(SaleTest, GoesFromTheClientToASavedInvoiceAndBackToNothing) {
   Start();
   Select(2);
-  desktop.Expect("Enter new sales invoice for Moss, Ada ?", Answer::Yes);
-  Main().btnDetails.Press();
+  Press(Main().btnDetails, "Enter new sales invoice for Moss, Ada ?", Answer::Yes);
   EXPECT_EQ(LastBox().title, "No Sales Found");
   EXPECT_FALSE(IsOpen("CustInvoices"));
   EXPECT_EQ(Sheet().lblInvoiceNum.Caption(), "1001");
@@ -64,30 +62,18 @@ TEST_F(SaleTest, GoesFromTheClientToASavedInvoiceAndBackToNothing) {
   EXPECT_EQ(Stock(), "-2");
   EXPECT_EQ(Sales().InvoiceList.Cell(1, 5), "$40.00") << "the first line saved the head, its tax read as 0";
 
-  desktop.Expect("Delete invoice #1001 and all associated charges?", Answer::Yes);
-  Sales().btnDelete.Press();
+  Press(Sales().btnDelete, "Delete invoice #1001 and all associated charges?", Answer::Yes);
   EXPECT_EQ(Stock(), "2");
   EXPECT_EQ(Sales().InvoiceList.Rows(), 1);
   EXPECT_EQ(Sales().lblBalDue.Caption(), "$0.00");
   EXPECT_EQ(Sales().lblBalDue.ForeColor(), Colour::Black);
   EXPECT_EQ(database.Cell("SELECT (SELECT COUNT(*) FROM tb_Invoice) + COUNT(*) FROM tb_trans"), "0");
-  EXPECT_EQ(program.engine.OpenConnections(database.File()), 0);
+  EXPECT_EQ(Connections(), 0);
 }
 
-/// Symbol behind the amount, comma for the point.
 class ContinentalSaleTest : public SalesOffice {
  protected:
-  ContinentalSaleTest()
-      : SalesOffice({.decimalPoint = ",",
-                     .thousandsSeparator = ".",
-                     .currencySymbol = "EUR",
-                     .currencyDecimalPoint = ",",
-                     .currencyThousandsSeparator = ".",
-                     .positiveCurrency = "%n %s",
-                     .negativeCurrency = "-%n %s",
-                     .dateOrder = RegionalSettings::DateOrder::DayMonthYear,
-                     .dateSeparator = ".",
-                     .shortDate = "dd.MM.yyyy"}) {}
+  ContinentalSaleTest() : SalesOffice(Germany()) {}
 };
 
 TEST_F(ContinentalSaleTest, KeepsMoneyWhoseSymbolStandsBehind) {
@@ -95,9 +81,9 @@ TEST_F(ContinentalSaleTest, KeepsMoneyWhoseSymbolStandsBehind) {
   database.Execute("UPDATE tb_Invoice SET Tax = 30000, ShippingCharge = 70000, Interest = 20000");
   Start();
   ListAll();
-  EXPECT_EQ(Sales().InvoiceList.Cell(1, 0) + " " + Sales().InvoiceList.Cell(1, 5), "10.02.2026 22,00 EUR");
+  EXPECT_EQ(Sales().InvoiceList.Cell(1, 0) + " " + Sales().InvoiceList.Cell(1, 5), "10.02.2026 22,00 €");
   InvoiceDetail& sheet = Open(1001);
-  EXPECT_EQ(sheet.txtDate.Text() + " " + sheet.txtShipCharge.Text(), "10.02.2026 7,00 EUR");
+  EXPECT_EQ(sheet.txtDate.Text() + " " + sheet.txtShipCharge.Text(), "10.02.2026 7,00 €");
   sheet.btnSave.Press();
   EXPECT_EQ(database.Rows("SELECT Date, Tax, ShippingCharge, Interest FROM tb_Invoice").at(0),
             "46063|30000|70000|20000");

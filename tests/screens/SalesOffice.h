@@ -5,7 +5,6 @@
 #include "screens/CustInvoices.h"
 #include "screens/InvSearch.h"
 #include "screens/InvoiceDetail.h"
-#include "support/Gestures.h"
 
 namespace norvane::test {
 
@@ -14,6 +13,8 @@ class SalesOffice : public Office {
  protected:
   static constexpr int kLamp = 1001;
   static constexpr int kLabour = 1002;
+  /// Ada Moss, in the second row of the clients.
+  static constexpr int kAda = 1003;
   /// January 1st 2026 as the tables hold it.
   static constexpr int kNewYear = 46023;
 
@@ -26,7 +27,7 @@ class SalesOffice : public Office {
   }
 
   /// An invoice over `qty` lamps of 10.00; none for 0.
-  void AddInvoice(int number, int custNum, int date, int qty = 1) {
+  void AddInvoice(int number, int custNum = kAda, int date = kNewYear + 40, int qty = 1) {
     const std::string key = std::to_string(number);
     database.Execute(
         "INSERT INTO tb_Invoice (InvoiceNum, CustNum, Date, Description, Discount, Tax, ShippingCharge, Shippingdate, "
@@ -49,20 +50,24 @@ class SalesOffice : public Office {
     return database.Rows("SELECT TransNum, ItemNum, Qty, Amount, BackOrder FROM tb_trans");
   }
 
-  CustInvoices& Sales() { return program.screens.Touch<CustInvoices>(); }
-  InvoiceDetail& Sheet() { return program.screens.Touch<InvoiceDetail>(); }
-  InvSearch& Picker() { return program.screens.Touch<InvSearch>(); }
+  CustInvoices& Sales() { return The<CustInvoices>(); }
+  InvoiceDetail& Sheet() { return The<InvoiceDetail>(); }
+  InvSearch& Picker() { return The<InvSearch>(); }
 
-  /// Opens an invoice of a client from the sales list.
+  /// Starts with the sales of Ada Moss.
+  void StartWithSales() {
+    Start();
+    Select(2);
+    Main().btnDetails.Press();
+  }
+  /// Opens an invoice from the sales list.
   InvoiceDetail& Open(int invoiceNum) {
-    const auto row = [&] {
-      for (int at = 1; at < Sales().InvoiceList.Rows(); ++at) {
-        if (Sales().InvoiceList.Cell(at, 1) == std::to_string(invoiceNum)) return at;
-      }
-      throw std::runtime_error("no such invoice in the list");
-    };
-    DoubleClick(Sales().InvoiceList, row(), 1);
+    DoubleClick(Sales().InvoiceList, RowOf(invoiceNum, Sales().InvoiceList, 1), 1);
     return Sheet();
+  }
+  InvoiceDetail& StartWith(int invoiceNum) {
+    StartWithSales();
+    return Open(invoiceNum);
   }
   void ListAll() {
     program.screens.Show(CustInvoices::kName);
@@ -73,15 +78,19 @@ class SalesOffice : public Office {
   /// Adds one unit of an item as a line.
   void PickItem(int itemNum) {
     Sheet().btnNewItem.Press();
-    Grid& items = Picker().InventoryList;
-    for (int row = 1; row < items.Rows(); ++row) {
-      if (items.Cell(row, 0) == std::to_string(itemNum)) return DoubleClick(items, row, 1);
-    }
-    throw std::runtime_error("no such item in the picker");
+    DoubleClick(Picker().InventoryList, RowOf(itemNum, Picker().InventoryList, 0), 1);
   }
   /// Leaves the lines for another field, which stores what waits.
   void LeaveLines() { Sheet().txtTerms.SetFocus(); }
   std::string Line(int row, int col) { return Sheet().ItemList.Cell(row, col); }
+
+ private:
+  static int RowOf(int number, const Grid& list, int col) {
+    for (int row = 1; row < list.Rows(); ++row) {
+      if (list.Cell(row, col) == std::to_string(number)) return row;
+    }
+    throw std::runtime_error(std::to_string(number) + " is not in the list");
+  }
 };
 
 }  // namespace norvane::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -9,6 +10,9 @@
 #include "support/PinnedFontMetrics.h"
 
 namespace norvane::pages {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 /// A document with margins of half an inch, already started; its body is 720 points high.
 class PageFixture : public testing::Test {

@@ -1,12 +1,7 @@
-#include <cmath>
-#include <gmock/gmock.h>
-
 #include "PageFixture.h"
 
 namespace norvane::pages {
 namespace {
-
-using testing::HasSubstr;
 
 constexpr double kLine = 1.117 * 11.25;
 
@@ -90,24 +85,18 @@ TEST_F(PageFixture, TextBoxesStandWhereTheyAreSetAndTheTextBelowTheLowest) {
             "text 0.50in 1.00in 11.25pt \"only this page counts\"\n");
 }
 
-TEST_F(PageFixture, TheBodyBeginsBelowTheHeaderEvenInNarrowMargins) {
+TEST_F(PageFixture, FindsAPlaceInNarrowMarginsOnOtherPaperAndForALineHigherThanAPage) {
   report.SetMargins("0.5in", "0.25in", "0.25in", "0.5in");
   report.StartDocument();
   report.SetAlignment(Alignment::Right);
   report.WriteParagraph("x");
-  EXPECT_EQ(Text(), "page 1/1\ntext 8.17in 0.49in 11.25pt \"x\"\n");
-}
-
-TEST_F(PageFixture, StandsCentredOnOtherPaper) {
-  EXPECT_DOUBLE_EQ(LeftOfPageOn(kPageWidth), 0);
-  EXPECT_NEAR(LeftOfPageOn(210 / 25.4 * 72), -8.36, 0.005);
-}
-
-TEST_F(PageFixture, ALineHigherThanAPageStillStands) {
+  EXPECT_EQ(Text(), "page 1/1\ntext 8.17in 0.49in 11.25pt \"x\"\n") << "the body begins below the header";
   report.SetFontSize(2000);
   report.WriteParagraph("AB");
-  EXPECT_EQ(Letters(), "AB");
-  EXPECT_EQ(Laid().pages.size(), 2u);
+  EXPECT_EQ(Letters(), "xAB");
+  EXPECT_EQ(Laid().pages.size(), 3u);
+  EXPECT_DOUBLE_EQ(LeftOfPageOn(kPageWidth), 0);
+  EXPECT_NEAR(LeftOfPageOn(210 / 25.4 * 72), -8.36, 0.005);
 }
 
 }  // namespace

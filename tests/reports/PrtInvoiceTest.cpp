@@ -7,12 +7,6 @@
 namespace norvane::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsSupersetOf;
-using testing::Not;
-
 class PrtInvoiceTest : public ReportOffice {
  protected:
   PrtInvoiceTest() {
@@ -46,7 +40,6 @@ class PrtInvoiceTest : public ReportOffice {
                      number + ", 1001, 50" + number + ", " + quantity + ", " + amount + ", '" + notes + "', " +
                      backOrder);
   }
-  void Set(const std::string& assignment) { database.Execute("UPDATE " + assignment); }
 
   std::vector<std::string> Words() { return WordsOf(Open<PrtInvoice>().VSInvoice); }
   /// The totals block and what follows.
@@ -55,38 +48,37 @@ class PrtInvoiceTest : public ReportOffice {
     words.erase(words.begin(), std::find(words.begin(), words.end(), "SubTotal"));
     return words;
   }
+  void StartLinesAnew() {
+    database.Execute("DELETE FROM tb_trans");
+    lines_ = 0;
+  }
   void ExpectPage(const char* golden) {
-    Preview& preview = Open<PrtInvoice>().VSInvoice;
-    EXPECT_EQ(PagesOf(preview).pages.size(), 1u);
-    ExpectGolden(golden, TextOf(preview));
+    PrtInvoice& report = Open<PrtInvoice>();
+    EXPECT_EQ(PagesOf(report.VSInvoice).pages.size(), 1u);
+    ExpectGolden(golden, TextOf(report.VSInvoice));
+    report.Unload();
   }
 
  private:
   int lines_ = 0;
 };
 
-TEST_F(PrtInvoiceTest, PrintsLines) {
+TEST_F(PrtInvoiceTest, PrintsFromNoLinesUpToTwentyOfTwentyOne) {
+  AddInvoice(10, 31'200, 45'000, 10'000);
+  ExpectPage("prt_invoice_no_lines.txt");
   AddInvoice(0, 31'200, 45'000, 10'000);
   AddLine("4", "5000000", "Oak table with two leaves");
   AddLine("3", "100000", "Lamp");
   AddLine("1", "12345678900", "Library");
   ExpectPage("prt_invoice_lines.txt");
-}
-
-TEST_F(PrtInvoiceTest, PrintsAnEmptyFormWithoutLines) {
-  AddInvoice(10, 31'200, 45'000, 10'000);
-  ExpectPage("prt_invoice_no_lines.txt");
-}
-
-TEST_F(PrtInvoiceTest, PrintsTwentyLinesAndCountsThemAll) {
-  for (int line = 1; line <= 21; ++line) AddLine("1", "10000", "Line " + std::to_string(line));
-  ExpectPage("prt_invoice_21_lines.txt");
-}
-
-TEST_F(PrtInvoiceTest, PrintsADiscount) {
   AddInvoice(12.5);
+  StartLinesAnew();
   AddLine("2", "800000");
   ExpectPage("prt_invoice_discount.txt");
+  AddInvoice(0);
+  StartLinesAnew();
+  for (int line = 1; line <= 21; ++line) AddLine("1", "10000", "Line " + std::to_string(line));
+  ExpectPage("prt_invoice_21_lines.txt");
 }
 
 TEST_F(PrtInvoiceTest, PrintsBackOrders) {
@@ -107,13 +99,13 @@ TEST_F(PrtInvoiceTest, DerivesTheUnitChargeFromQuantityAndAmount) {
   const auto words = Words();
   const auto rowOf = [&](const char* notes) {
     const auto found = std::find(words.begin(), words.end(), notes);
-    return std::vector<std::string>(found + 1, found + 3);
+    return found[1] + " " + found[2];
   };
-  EXPECT_THAT(rowOf("three"), ElementsAre("$3.33", "$10.00"));
-  EXPECT_THAT(rowOf("none"), ElementsAre("$0.00", "$7.00"));
-  EXPECT_THAT(rowOf("returned"), ElementsAre("$0.00", "($4.00)"));
-  EXPECT_THAT(rowOf("unknown"), ElementsAre("$0.00", "$6.00"));
-  EXPECT_THAT(rowOf("half"), ElementsAre("$2.00", "$1.00"));
+  EXPECT_EQ(rowOf("three"), "$3.33 $10.00");
+  EXPECT_EQ(rowOf("none"), "$0.00 $7.00");
+  EXPECT_EQ(rowOf("returned"), "$0.00 ($4.00)");
+  EXPECT_EQ(rowOf("unknown"), "$0.00 $6.00");
+  EXPECT_EQ(rowOf("half"), "$2.00 $1.00");
 }
 
 TEST_F(PrtInvoiceTest, RoundsTheShippingButNotTheDiscountToCents) {
@@ -123,28 +115,14 @@ TEST_F(PrtInvoiceTest, RoundsTheShippingButNotTheDiscountToCents) {
   EXPECT_THAT(Totals(), IsSupersetOf({"$10.00", "Discount:", "$5.00", "Total:", "$5.01"}));
   program.screens.Unload("PrtInvoice");
   AddInvoice(0, 0, 10'050);
-  Set("tb_trans SET Amount = 99990");
+  database.Execute("UPDATE tb_trans SET Amount = 99990");
   // With 1.005 for shipping the total would be 11.004.
   EXPECT_THAT(Totals(), IsSupersetOf({"Shipping:", "$1.01", "Total:", "$11.01"}));
 }
 
-TEST_F(PrtInvoiceTest, FollowsTheRegion) {
-  AddLine("1", "12345678");
-  RegionalSettings settings;
-  settings.currencySymbol = "kr";
-  Program abroad(desktop, settings, database.Folder());
-  RegisterReports(abroad);
-  abroad.globals = globals;
-  abroad.screens.Show("PrtInvoice");
-  EXPECT_THAT(WordsOf(abroad.screens.Find<PrtInvoice>()->VSInvoice), Contains("kr1,234.57"));
-}
-
 TEST_F(PrtInvoiceTest, IsAWindowOfItsOwn) {
   PrtInvoice& report = Open<PrtInvoice>();
-  EXPECT_EQ(report.Caption(), "Print Invoice");
-  EXPECT_EQ(report.VSInvoice.Name(), "VSInvoice");
   EXPECT_EQ(report.VSInvoice.Title(), "Invoice 1001");
-  EXPECT_EQ(report.VSInvoice.Zoom(), 100);
   EXPECT_TRUE(report.VSInvoice.HasFocus());
   globals.CurInvoiceNum = 1002;
   program.screens.Show("PrtInvoice");
@@ -159,16 +137,14 @@ TEST_F(PrtInvoiceTest, ADeletedInvoiceOrClientLeavesItsPlacesEmpty) {
   Open<PrtInvoice>().Unload();
   database.Execute("DELETE FROM tb_Invoice; DELETE FROM tb_trans; DELETE FROM tb_Client");
   const auto words = Words();
-  EXPECT_THAT(words, Contains("Invoice #1001"));
-  EXPECT_THAT(words, Contains("Description: "));
-  EXPECT_THAT(words, Not(Contains("Ada Byron")));
-  EXPECT_THAT(words, Not(Contains("Ground")));
+  EXPECT_THAT(words, IsSupersetOf({"Invoice #1001", "Description: "}));
+  for (const char* gone : {"Ada Byron", "Ground"}) EXPECT_THAT(words, Not(Contains(gone)));
   EXPECT_THAT(Totals(), IsSupersetOf({"SubTotal", "Total:", "$0.00"}));
 }
 
 TEST_F(PrtInvoiceTest, SeparatorsInTheDataSplitTheirCellAndNothingElse) {
-  Set("tb_Client SET BillLname = 'Byron; | Sons'");
-  Set("tb_Invoice SET SalesRep = 'Grace|Ann', Description = 'one; two | three'");
+  database.Execute("UPDATE tb_Client SET BillLname = 'Byron; | Sons'");
+  database.Execute("UPDATE tb_Invoice SET SalesRep = 'Grace|Ann', Description = 'one; two | three'");
   AddLine("1", "10000", "split|here");
   AddLine("1", "20000", "two;rows");
   AddLine("1", "30000", "third");
@@ -177,47 +153,13 @@ TEST_F(PrtInvoiceTest, SeparatorsInTheDataSplitTheirCellAndNothingElse) {
   EXPECT_THAT(Totals(), Contains("$6.00").Times(2)) << "as subtotal and as total";
 }
 
-TEST_F(PrtInvoiceTest, KeepsLongForeignAndBrokenTextWhole) {
-  std::string description;
-  for (int word = 0; description.size() < 4000; ++word) description += "word" + std::to_string(word) + " ";
-  Set("tb_Invoice SET Description = '" + description + "', Terms = 'תוך שלושים יום'");
-  AddLine("1", "10000", "Oak table,\nwith two leaves");
-  PrtInvoice& report = Open<PrtInvoice>();
-  EXPECT_EQ(PagesOf(report.VSInvoice).pages.size(), 2u);
-  const auto words = WordsOf(report.VSInvoice);
-  EXPECT_THAT(words, IsSupersetOf({"תוך שלושים יום", "Oak table,", "with two leaves"}));
-  std::string printed;
-  for (const std::string& word : words) {
-    const bool runningHead = word == "Invoice #1001" || word == "We appreciate your business!";
-    if (!runningHead) printed += word + " ";
-  }
-  EXPECT_THAT(printed, HasSubstr(description));
-}
-
-TEST_F(PrtInvoiceTest, CountsTenThousandLines) {
-  database.Execute(
-      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 10000) "
-      "INSERT INTO tb_trans (TransNum, InvoiceNum, ItemNum, Qty, Amount, Notes, BackOrder) "
-      "SELECT i, 1001, 5, 1, 10000, 'Oak table', '0' FROM n");
-  const auto words = Words();
-  EXPECT_EQ(std::count(words.begin(), words.end(), "Oak table"), 20);
-  EXPECT_THAT(words, Contains("$10,000.00").Times(2));
-}
-
 TEST_F(PrtInvoiceTest, AnErrorLeavesThePageAsFarAsItWasBuilt) {
   AddLine("1", "NULL");
   desktop.Expect("PrtInvoice.Form_Load -94 Invalid use of Null.  If error persists contact Norvanes author.");
   PrtInvoice& report = Open<PrtInvoice>();
   EXPECT_TRUE(report.IsVisible());
-  const auto words = WordsOf(report.VSInvoice);
-  EXPECT_EQ(words.back(), "Net 30") << "the order table is the last that was ended";
+  EXPECT_EQ(WordsOf(report.VSInvoice).back(), "Net 30") << "the order table is the last that was ended";
   report.Unload();
-
-  database.Execute("ALTER TABLE tb_trans RENAME COLUMN InvoiceNum TO Lost");
-  desktop.Expect("Invoice.GetInvoiceItems -");
-  desktop.Expect("PrtInvoice.Form_Load -91");
-  EXPECT_EQ(Words(), words);
-  program.screens.Unload("PrtInvoice");
 
   globals.oInvoice.Release();
   desktop.Expect("PrtInvoice.Form_Load -91");

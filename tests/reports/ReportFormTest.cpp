@@ -7,10 +7,6 @@
 namespace norvane::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-
 constexpr const char* kNotice = "LoadingClients";
 
 /// A report with criteria beside it. It goes on only with a number in LedgerFieldValue.
@@ -50,13 +46,7 @@ class Criteria : public VSregistryReport {
   }
 };
 
-/// A list over the whole width, and a form with the blocks of a receipt.
-class Plain : public VSregistryReport {
- public:
-  static constexpr const char* kName = "Plain";
-  explicit Plain(Program& host) : VSregistryReport(host, kName, "Print Plain") { SetReportLayout(); }
-};
-
+/// A form with the blocks of a receipt.
 class Receipt : public VSInvoiceReport {
  public:
   static constexpr const char* kName = "Receipt";
@@ -82,7 +72,6 @@ class ReportFormTest : public ReportOffice {
   ReportFormTest() {
     globals.LedgerFieldValue = "1";
     program.screens.Add<Criteria>();
-    program.screens.Add<Plain>();
     program.screens.Add<Receipt>();
     program.screens.AddFactory(kNotice, [](Program& host) {
       return std::make_shared<Form>(host, kNotice, FormStyle{.goesWithOwner = true, .notice = true});
@@ -90,16 +79,6 @@ class ReportFormTest : public ReportOffice {
   }
   bool NoticeStands() { return program.screens.Find(kNotice) != nullptr; }
 };
-
-TEST_F(ReportFormTest, ShowsItsNoticeOnlyWhileItLoads) {
-  desktop.DuringDoEvents([&] {
-    ASSERT_TRUE(NoticeStands());
-    EXPECT_EQ(program.screens.Find(kNotice)->Owner(), program.screens.Find("Criteria"));
-  });
-  Open<Criteria>();
-  EXPECT_FALSE(NoticeStands());
-  EXPECT_EQ(desktop.repaints, 1);
-}
 
 TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
   globals.LedgerFieldValue = "none";
@@ -122,6 +101,14 @@ TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
   EXPECT_THAT(WordsOf(report.VSregistry), Not(Contains("2")));
   report.btnExit.Press();
   EXPECT_FALSE(NoticeStands());
+
+  globals.LedgerFieldValue = "3";
+  desktop.DuringDoEvents([&] { EXPECT_TRUE(NoticeStands()); });
+  Criteria& again = Open<Criteria>();
+  EXPECT_FALSE(NoticeStands());
+  globals.LedgerFieldValue = "4";
+  Open<Receipt>().UserClose();
+  EXPECT_THAT(WordsOf(again.VSregistry), Contains("3")) << "each has its own document";
 }
 
 TEST_F(ReportFormTest, TheTwoHalvesOfADateGoTheirOwnWaysAfterTyping) {
@@ -144,14 +131,11 @@ TEST_F(ReportFormTest, ResizesByTheRuleOfItsKind) {
     return std::vector<Twips>{preview.Left(), preview.Width(), preview.Height(), exit->Left()};
   };
   Receipt& receipt = Open<Receipt>();
+  EXPECT_TRUE(receipt.VSInvoice.HasFocus());
   receipt.UserResize(10'000, 8'000);
   EXPECT_THAT(placesOf(receipt, receipt.VSInvoice), ElementsAre(0, 9830, 7350, 9000));
   receipt.UserResize(999, 600);
   EXPECT_THAT(placesOf(receipt, receipt.VSInvoice), ElementsAre(0, 829, 7350, 9000)) << "what is too small stays";
-
-  Plain& plain = Open<Plain>();
-  plain.UserResize(10'000, 8'000);
-  EXPECT_THAT(placesOf(plain, plain.VSregistry), ElementsAre(25, 9750, 7200, 9000));
 
   Criteria& criteria = Open<Criteria>();
   criteria.UserResize(10'000, 8'000);
@@ -160,20 +144,6 @@ TEST_F(ReportFormTest, ResizesByTheRuleOfItsKind) {
   criteria.UserResize(3'000, 700);
   EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 6950, 7200, 2000));
   EXPECT_EQ(criteria.Frame1.Left(), 7000);
-}
-
-TEST_F(ReportFormTest, SeveralStandOpenEachWithItsOwnDocument) {
-  Criteria& criteria = Open<Criteria>();
-  globals.LedgerFieldValue = "2";
-  Receipt& receipt = Open<Receipt>();
-  EXPECT_TRUE(criteria.IsVisible() && receipt.IsVisible());
-  EXPECT_FALSE(criteria.IsModal() || receipt.IsModal());
-  EXPECT_TRUE(receipt.VSInvoice.HasFocus());
-  EXPECT_EQ(receipt.btnExit.Caption(), "&Exit");
-  EXPECT_EQ(criteria.btnExit.ToolTip(), "Exit Vendor Payments");
-  receipt.UserClose();
-  EXPECT_EQ(program.screens.Find("Receipt"), nullptr);
-  EXPECT_THAT(WordsOf(criteria.VSregistry), Contains("1"));
 }
 
 TEST_F(ReportFormTest, TheCompanysLinesBearTheirPrefixesAndTheSlashStaysAlone) {

@@ -19,6 +19,12 @@
 
 namespace norvane::test {
 
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsSupersetOf;
+using ::testing::Not;
+
 /// The program with its data objects, as it stands when a report is opened, on a database of its own.
 class ReportOffice : public ::testing::Test {
  protected:

@@ -1,11 +1,7 @@
-#include <gmock/gmock.h>
-
 #include "PageFixture.h"
 
 namespace norvane::pages {
 namespace {
-
-using testing::HasSubstr;
 
 class Heads : public PageFixture {
  protected:
@@ -44,7 +40,7 @@ TEST_F(Heads, ShrinkEvenlyUntilABlankPartsThem) {
   EXPECT_THAT(With(thirtyOne + "||" + thirtyOne), HasSubstr("14.25pt"));
   const std::string tight = With(thirtyOne + "||" + thirtyOne + "y");
   EXPECT_THAT(tight, HasSubstr("13.75pt"));
-  EXPECT_THAT(tight, testing::Not(HasSubstr("14.25pt")));
+  EXPECT_THAT(tight, Not(HasSubstr("14.25pt")));
   EXPECT_THAT(With("Client Balances|" + std::string(40, 'x') + "|11/22/2026"), HasSubstr("12.25pt"));
 }
 

@@ -32,7 +32,7 @@ TEST_F(WindowPlaceTest, TakesGarbledValuesAsZeroAndIsKeptAtTheExit) {
   EXPECT_THAT(text, HasSubstr("[Customer]\nLEFT=300\nTOP=450\nWIDTH=9000.5\nHEIGHT=7000\n"));
 }
 
-TEST_F(WindowPlaceTest, JumpsBackWhenTheAboutBoxOpens) {
+TEST_F(WindowPlaceTest, JumpsBackWhenTheAboutBoxOpensAndIsNotKeptWhileMinimized) {
   Start();
   Main().UserMove(300, 450);
   Main().UserResize(9000, 7000);
@@ -40,6 +40,11 @@ TEST_F(WindowPlaceTest, JumpsBackWhenTheAboutBoxOpens) {
   EXPECT_EQ(Place(), "100 100 8000 6000");
   The<About>().Command1.Press();
   EXPECT_FALSE(IsOpen("About"));
+
+  Main().UserMove(500, 500);
+  Main().UserWindowState(WindowState::Minimized);
+  Main().btnExit.Press();
+  EXPECT_FALSE(std::filesystem::exists(database.Folder() / "norvane.ini")) << "a minimized window's place is not kept";
 }
 
 }  // namespace

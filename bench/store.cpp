@@ -5,7 +5,6 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdlib>
-#include <filesystem>
 #include <functional>
 #include <malloc.h>
 #include <memory>
@@ -13,47 +12,26 @@
 #include <string>
 #include <vector>
 
+#include "LargeBusiness.h"
 #include "core/store/Engine.h"
 #include "core/store/Recordset.h"
-#include "sample/Sample.h"
 
 namespace norvane {
 namespace {
 
-namespace fs = std::filesystem;
-
-/// A large business in a temporary folder, made once for all benches.
-class LargeBusiness {
- public:
-  LargeBusiness() : folder_(fs::temp_directory_path() / "norvanes-bench-XXXXXX") {
-    std::string pattern = folder_.string();
-    folder_ = mkdtemp(pattern.data());
-    sample::Order order;
-    order.size = {.clients = 100'000, .invoices = 100'000, .lines = 500'000, .items = 1'000, .payments = 50'000};
-    order.today = 46'000;
-    sample::WriteSample(NORVANE_DELIVERED, File(), order);
-  }
-  ~LargeBusiness() { fs::remove_all(folder_); }
-  LargeBusiness(const LargeBusiness&) = delete;
-  LargeBusiness& operator=(const LargeBusiness&) = delete;
-
-  fs::path File() const { return folder_ / "norvane.mdb"; }
-  static const LargeBusiness& Shared() {
-    static const LargeBusiness business;
-    return business;
-  }
-
- private:
-  fs::path folder_;
-};
+/// A large business, made once for all benches here.
+const bench::LargeBusiness& Business() {
+  static const bench::LargeBusiness business(
+      {.clients = 100'000, .invoices = 100'000, .lines = 500'000, .items = 1'000, .payments = 50'000});
+  return business;
+}
 
 using Row = std::vector<std::string>;
 
 /// The hand-written way: open, prepare, step all rows into strings, close.
 std::vector<Row> ByHand(const std::string& sql) {
   sqlite3* database = nullptr;
-  sqlite3_open_v2(LargeBusiness::Shared().File().c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
-                  nullptr);
+  sqlite3_open_v2(Business().File().c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   sqlite3_stmt* statement = nullptr;
   if (sqlite3_prepare_v2(database, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) std::abort();
   std::vector<Row> rows;
@@ -75,7 +53,7 @@ class Program {
   std::shared_ptr<Recordset> Read(const std::string& statement) {
     Connection connection(engine_);
     connection.ConnectionString =
-        "Provider=Microsoft.Jet.OLEDB.4.0;Data Source = \"" + LargeBusiness::Shared().File().string() + "\" ;";
+        "Provider=Microsoft.Jet.OLEDB.4.0;Data Source = \"" + Business().File().string() + "\" ;";
     connection.Open();
     auto rows = std::make_shared<Recordset>();
     rows->Open(statement, connection, CursorType::ForwardOnly);

@@ -1,0 +1,61 @@
+// From the start of the program to a main window that a person can use, and the client list anew, with a hundred
+// thousand clients. Offscreen, so that a window system's speed stays out of it.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include "LargeBusiness.h"
+#include "app/Composition.h"
+#include "core/RegionalSettings.h"
+#include "forms/Form.h"
+#include "ui/QtDesktop.h"
+
+namespace norvane {
+namespace {
+
+const bench::LargeBusiness& Business() {
+  static const bench::LargeBusiness business({.clients = 100'000, .invoices = 10, .lines = 30});
+  return business;
+}
+
+void MainWindowUsable(benchmark::State& state) {
+  Business();
+  for (auto _ : state) {
+    ui::QtDesktop desktop{RegionalSettings{}};
+    Program program(desktop, RegionalSettings{}, Business().Folder());
+    Compose(program, desktop);
+    program.Start("Customer");
+    QApplication::processEvents();
+    state.PauseTiming();
+    program.screens.Unload("Customer");
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(MainWindowUsable)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+void ClientListAnew(benchmark::State& state) {
+  ui::QtDesktop desktop{RegionalSettings{}};
+  Program program(desktop, RegionalSettings{}, Business().Folder());
+  Compose(program, desktop);
+  program.Start("Customer");
+  Form& customer = program.screens.Touch("Customer");
+  auto* refresh = static_cast<Button*>(*std::find_if(customer.Controls().begin(), customer.Controls().end(),
+                                                     [](Control* control) { return control->Name() == "btnRefresh"; }));
+  for (auto _ : state) {
+    refresh->Press();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(ClientListAnew)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+}  // namespace
+}  // namespace norvane
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

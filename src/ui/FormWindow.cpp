@@ -44,7 +44,6 @@ void FormWindow::ChooseFlags() {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint);
   }
-  if (form_->IsModal()) setWindowModality(Qt::ApplicationModal);
 }
 
 void FormWindow::BuildMenu() {
@@ -54,7 +53,6 @@ void FormWindow::BuildMenu() {
 QMenu* FormWindow::MakeMenu(MenuEntry& entry) {
   auto* menu = new QMenu(ToQt(entry.Caption()), this);
   for (MenuEntry* child : entry.Entries()) AddEntry(*menu, *child);
-  new Binding(entry, *menu, nullptr);
   entry.observer = [&entry, action = menu->menuAction()](Aspect) {
     action->setEnabled(entry.Enabled());
     action->setVisible(entry.Visible());
@@ -110,6 +108,7 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
 }
 
 void FormWindow::Present(QWidget* owner) {
+  if (!isVisible()) BelongTo(owner);
   if (!placed_) TakeFirstPlace(owner);
   placed_ = true;
   if (isMinimized()) showNormal();
@@ -131,12 +130,15 @@ void FormWindow::Abandon() {
   deleteLater();
 }
 
+/// Above its owner, which is not its parent: an owner may go and leave the window behind.
+void FormWindow::BelongTo(QWidget* owner) {
+  setWindowModality(form_->IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+  winId();
+  if (owner) owner->winId();
+  windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);
+}
+
 void FormWindow::TakeFirstPlace(QWidget* owner) {
-  if (owner) {
-    winId();
-    owner->winId();
-    windowHandle()->setTransientParent(owner->windowHandle());
-  }
   const bool natural = form_->Width() <= 0 && form_->Height() <= 0;
   if (!form_->Style().resizable) layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (natural) {

@@ -43,6 +43,7 @@ class FormWindow : public QMainWindow {
   void FormChanged(Aspect aspect);
 
   void FollowPlace();
+  void BelongTo(QWidget* owner);
   void TakeFirstPlace(QWidget* owner);
   QPoint PlaceBeside(const QWidget* owner) const;
   QSize SizeOfForm() const;

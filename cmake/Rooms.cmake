@@ -4,6 +4,8 @@
 
 add_library(norvanes_options INTERFACE)
 target_compile_options(norvanes_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+# GCC 12 takes joined texts for overlapping memory once it optimises: https://gcc.gnu.org/bugzilla/show_bug.cgi?id=105651
+target_compile_options(norvanes_options INTERFACE $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict>)
 if(NORVANES_WERROR)
   target_compile_options(norvanes_options INTERFACE -Werror)
 endif()

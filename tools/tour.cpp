@@ -14,6 +14,7 @@
 #include "app/Composition.h"
 #include "forms/Form.h"
 #include "sample/Sample.h"
+#include "tour/Paper.h"
 #include "tour/Stops.h"
 #include "tour/TourDesktop.h"
 #include "tour/Visitor.h"
@@ -29,7 +30,9 @@ constexpr const char* kUsage =
     "usage: tour DELIVERED FOLDER [PICTURE...]\n"
     "\n"
     "Drives the program over sample data, made from the delivered database DELIVERED, and draws every screen into\n"
-    "FOLDER: light and dark, in the first size and enlarged. With names of pictures, only those.\n";
+    "FOLDER: light and dark, in the first size and enlarged; reports also as PDF and as pictures of their first "
+    "pages.\n"
+    "With names of pictures, only those.\n";
 
 // A Friday morning; the sample reaches up to it.
 constexpr std::chrono::year_month_day kDay = std::chrono::year{2025} / 10 / 17;
@@ -42,12 +45,21 @@ void LeaveOutThePlatformsRemarks(QtMsgType, const QMessageLogContext&, const QSt
   if (!text.startsWith("This plugin does not support")) std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+constexpr const char* kPaper = "paper";
+
+/// Where a visit leaves its files.
+struct Target {
+  fs::path screens;
+  fs::path paper;
+};
+
 /// One stop under one theme: a program of its own, so that no stop depends on another.
 class Visit {
  public:
-  Visit(const Stop& stop, ui::Theme theme, const fs::path& data, const fs::path& target)
+  Visit(const Stop& stop, ui::Theme theme, const fs::path& data, const Target& target)
       : stop_(stop),
-        target_(target),
+        target_(target.screens),
+        paper_(target.paper),
         desktop_(theme, Date(sample::ToDay(kDay) + kMorning)),
         program_(desktop_, {}, data) {
     desktop_.modalForm = [this](Form& form) { Photograph(form); };
@@ -76,6 +88,7 @@ class Visit {
       window->resize(window->width() * 3 / 2, window->height() * 7 / 5);
       Save(*window, "-enlarged");
     }
+    WritePaper(form, paper_, std::string(stop_.picture));
     taken_ = true;
   }
 
@@ -88,6 +101,7 @@ class Visit {
 
   const Stop& stop_;
   fs::path target_;
+  fs::path paper_;
   TourDesktop desktop_;
   Program program_;
   bool taken_ = false;
@@ -95,13 +109,18 @@ class Visit {
 
 /// A page that shows all pictures of the folder, for a look at everything at once.
 void WriteIndex(const fs::path& folder, const std::vector<const Stop*>& stops) {
-  std::ofstream page(folder / "index.html");
-  page << "<!DOCTYPE html><meta charset='utf-8'><title>Norvanes: picture tour</title>\n"
+  std::ofstream html(folder / "index.html");
+  html << "<!DOCTYPE html><meta charset='utf-8'><title>Norvanes: picture tour</title>\n"
        << "<style>body{font-family:sans-serif}img{max-width:48%;vertical-align:top;margin:4px;border:1px solid "
           "#999}</style>\n";
   for (const Stop* stop : stops) {
-    page << "<h2>" << stop->picture << "</h2>\n";
-    for (const auto& [theme, name] : kThemes) page << "<img src='" << name << "/" << stop->picture << ".png'>\n";
+    html << "<h2>" << stop->picture << "</h2>\n";
+    for (const auto& [theme, name] : kThemes) html << "<img src='" << name << "/" << stop->picture << ".png'>\n";
+    for (std::size_t page = 1; page <= kPicturedPages; ++page) {
+      const std::string file =
+          std::string(kPaper) + "/" + std::string(stop->picture) + "-" + std::to_string(page) + ".png";
+      if (fs::exists(folder / file)) html << "<img src='" << file << "'>\n";
+    }
   }
 }
 
@@ -133,10 +152,11 @@ int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::s
   const std::vector<const Stop*> stops = Choose(program, wanted);
 
   int problems = 0;
+  fs::create_directories(folder / kPaper);
   for (const auto& [theme, name] : kThemes) {
     fs::create_directories(folder / name);
     for (const Stop* stop : stops) {
-      const std::string problem = Visit(*stop, theme, dataFolder, folder / name).Make();
+      const std::string problem = Visit(*stop, theme, dataFolder, {folder / name, folder / kPaper}).Make();
       // The windows of the visit go now: without an event loop nothing else would ever take them away.
       QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
       if (problem.empty()) continue;

@@ -6,8 +6,9 @@ namespace {
 using enum Step::Do;
 
 // Ways that several stops begin with.
-const Step kClient{Click, "Customer", "CustList2", 3, 2};
-const Step kSales{DoubleClick, "Customer", "CustList2", 3, 2};
+constexpr int kCompany = 30;  // row of a company with much to show: invoices, a back order, payments
+const Step kClient{Click, "Customer", "CustList2", kCompany, 2};
+const Step kSales{DoubleClick, "Customer", "CustList2", kCompany, 2};
 const Step kPayments{Press, "Customer", "btnReceipts"};
 const Step kRegistry{Press, "Customer", "btnPayments"};
 const Step kInventory{Press, "Customer", "btnInventory"};

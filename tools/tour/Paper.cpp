@@ -1,0 +1,54 @@
+#include "tour/Paper.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include <QImage>
+#include <QPainter>
+
+#include "reports/Preview.h"
+#include "ui/PageOutput.h"
+#include "ui/PagePainter.h"
+
+namespace norvane::tour {
+namespace {
+
+constexpr double kDotsPerInch = 100;
+
+const pages::Pages* DocumentOf(const Form& form) {
+  for (const Control* control : form.Controls())
+    if (const auto* preview = dynamic_cast<const Preview*>(control)) return &preview->Pages();
+  return nullptr;
+}
+
+QImage Picture(const pages::Pages& document, std::size_t page) {
+  const double scale = kDotsPerInch / pages::kPointsPerInch;
+  QImage picture(static_cast<int>(pages::kPageWidth * scale), static_cast<int>(pages::kPageHeight * scale),
+                 QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  ui::PaintPage(painter, document, page, {}, scale);
+  return picture;
+}
+
+void Insist(bool written, const QString& file) {
+  if (!written) throw std::runtime_error("can't write " + file.toStdString());
+}
+
+}  // namespace
+
+std::size_t WritePaper(const Form& form, const std::filesystem::path& folder, const std::string& name) {
+  const pages::Pages* document = DocumentOf(form);
+  if (document == nullptr || document->pages.empty()) return 0;
+  const QString base = QString::fromStdString((folder / name).string());
+  Insist(ui::WritePdf(*document, QString::fromStdString(form.Caption()), base + ".pdf"), base + ".pdf");
+  const std::size_t pictures = std::min(document->pages.size(), kPicturedPages);
+  for (std::size_t page = 0; page < pictures; ++page) {
+    const QString file = QString("%1-%2.png").arg(base).arg(page + 1);
+    Insist(Picture(*document, page).save(file), file);
+  }
+  return pictures;
+}
+
+}  // namespace norvane::tour

@@ -11,6 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kDatabase = "norvane.mdb";
+constexpr const char* kHelp = "help";
 
 fs::path ToPath(const QString& path) {
   return {path.toStdU16String()};
@@ -35,6 +36,7 @@ void MakeOwnFolder(const fs::path& folder) {
   if (delivered.empty()) return;
   fs::copy_file(delivered, folder / kDatabase, failed);
   fs::permissions(folder / kDatabase, fs::perms::owner_read | fs::perms::owner_write, failed);
+  fs::create_directory_symlink(delivered.parent_path() / kHelp, folder / kHelp, failed);
 }
 
 }  // namespace

@@ -8,7 +8,8 @@ namespace norvane {
 ///
 /// It is the executable's folder if the database is there. Links are not followed: a link to the program beside a
 /// database is a program of its own. Otherwise it is a folder of the user's own, which is made at the first start,
-/// readable by nobody else, with a copy of the delivered database. Once that folder exists nothing is ever put into it.
+/// readable by nobody else, with a copy of the delivered database and a link to the help pages. Once that folder exists
+/// nothing is ever put into it.
 std::filesystem::path ApplicationFolder(const char* executable);
 
 }  // namespace norvane

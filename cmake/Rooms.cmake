@@ -48,9 +48,11 @@ endfunction()
 # them once more on a virtual X display, where focus and activation are the ones a user meets.
 function(norvanes_window_test name)
   norvanes_test(${name} ${ARGN} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+  set(leaks LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/foreign_leaks.txt:print_suppressions=0)
   find_program(NORVANES_XVFB_RUN xvfb-run REQUIRED)
   add_test(NAME ${name}.x11 COMMAND ${NORVANES_XVFB_RUN} --auto-servernum --server-args "-screen 0 1600x1200x24"
                                     $<TARGET_FILE:test_${name}>)
-  set_tests_properties(${name}.x11 PROPERTIES TIMEOUT 900 RESOURCE_LOCK display ENVIRONMENT QT_QPA_PLATFORM=xcb)
+  set_tests_properties(${name}.x11 PROPERTIES TIMEOUT 900 RESOURCE_LOCK display
+                                               ENVIRONMENT "QT_QPA_PLATFORM=xcb;${leaks}")
 endfunction()
 include(GoogleTest)

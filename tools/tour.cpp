@@ -164,7 +164,10 @@ int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::s
       std::fprintf(stderr, "%s (%s): %s\n", std::string(stop->picture).c_str(), name, problem.c_str());
     }
   }
-  for (const std::string& screen : Unseen(program)) std::fprintf(stderr, "no stop shows %s\n", screen.c_str());
+  for (const std::string& screen : Unseen(program)) {
+    ++problems;
+    std::fprintf(stderr, "no stop shows %s\n", screen.c_str());
+  }
   WriteIndex(folder, stops);
   std::printf("%zu screens, light and dark: %s\n", stops.size(), (folder / "index.html").c_str());
   return problems == 0 ? 0 : 1;

@@ -1,5 +1,7 @@
 #include "screens/TypeList.h"
 
+#include <functional>
+
 namespace norvane {
 
 TypeList::TypeList(Program& host, const TypeListKind& kind)
@@ -49,10 +51,11 @@ void TypeList::SaveRow() {
   Trapped(kind_.labels.saveRow, [&] {
     const std::int32_t row = rows_.RowLeft();
     if (row > 0 && !PaymentList.Cell(row, 1).empty()) {
-      globals.oSetup->OpenCn();
-      (*globals.oSetup.*kind_.save)(PaymentList.Cell(row, 1));
+      cSetup& setup = *globals.oSetup;
+      setup.OpenCn();
+      std::invoke(kind_.save, setup, PaymentList.Cell(row, 1));
       ReadList();
-      globals.oSetup->CloseCn();
+      setup.CloseCn();
       rows_.SetMarker(row, "");
     }
     globals.RowChanged = false;
@@ -62,7 +65,7 @@ void TypeList::SaveRow() {
 
 // Every drop-down built later sees the change.
 void TypeList::ReadList() {
-  globals.*kind_.list = (*globals.oSetup.*kind_.read)();
+  globals.*kind_.list = std::invoke(kind_.read, *globals.oSetup);
 }
 
 void TypeList::PaymentList_Click() {
@@ -83,10 +86,11 @@ void TypeList::btnDelete_Click() {
     if (SelectedType.empty()) return;
     if (!AskYesNo("Delete payment type... " + SelectedType + "?", "Delete Payment Type")) return;
     (globals.*kind_.list).Release();
-    globals.oSetup->OpenCn();
-    (*globals.oSetup.*kind_.remove)(SelectedType);
+    cSetup& setup = *globals.oSetup;
+    setup.OpenCn();
+    std::invoke(kind_.remove, setup, SelectedType);
     ReadList();
-    globals.oSetup->CloseCn();
+    setup.CloseCn();
     rows_.RemoveRow(PaymentList.Row());
   });
 }

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -17,6 +18,8 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 #include "forms/Controls.h"
 #include "forms/Form.h"
@@ -215,9 +218,27 @@ Binding* MakeComboBox(ComboBox& combo, QWidget* parent) {
   return binding;
 }
 
+/// The calendar of the theme: its own arrows, plain weekends, weeks that begin as the machine's do, all six in sight.
+void DressCalendar(QCalendarWidget& calendar) {
+  constexpr int kHeadingRows = 3;  // the month, the days' names and some air
+  constexpr int kWeeks = 6;
+  constexpr int kDayPadding = 10;
+  const QLocale machine = QLocale::system();
+  calendar.setFirstDayOfWeek(machine.language() == QLocale::C ? Qt::Sunday : machine.firstDayOfWeek());
+  calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  calendar.setGridVisible(false);
+  for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, QTextCharFormat());
+  for (auto [name, icon] :
+       {std::pair("qt_calendar_prevmonth", "previous"), std::pair("qt_calendar_nextmonth", "next")}) {
+    if (auto* arrow = calendar.findChild<QToolButton*>(name)) arrow->setIcon(NamedIcon(icon));
+  }
+  calendar.setMinimumHeight((kHeadingRows + kWeeks) * (calendar.fontMetrics().height() + kDayPadding));
+}
+
 Binding* MakeDatePicker(DatePicker& picker, QWidget* parent, const QString& format) {
   auto* widget = new QDateEdit(parent);
   widget->setCalendarPopup(true);
+  DressCalendar(*widget->calendarWidget());
   widget->setDisplayFormat(format);
   widget->setFocusPolicy(Qt::StrongFocus);
   widget->setMinimumWidth(WidthOf(*widget, 10) + kInputPadding);
@@ -244,8 +265,7 @@ int KeyCodeOf(const QKeyEvent& event) {
 
 Binding* MakeMonthView(MonthView& month, QWidget* parent) {
   auto* widget = new QCalendarWidget(parent);
-  widget->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  widget->setGridVisible(false);
+  DressCalendar(*widget);
   auto* binding = new Binding(month, *widget, [&month, widget](Aspect) {
     const QSignalBlocker quiet(widget);
     widget->setSelectedDate(ToQt(month.Value()));

@@ -1,6 +1,7 @@
 #include <fstream>
 
 #include "TestForms.h"
+#include "support/OwnPath.h"
 
 namespace norvane::test {
 namespace {
@@ -8,7 +9,7 @@ namespace {
 class GeometryTest : public FormsTest {
  protected:
   void SetUp() override {
-    program.globals.IniPath = testing::TempDir() + "geometry.ini";
+    program.globals.IniPath = OwnPath("geometry.ini");
     std::filesystem::remove(program.globals.IniPath);
   }
   void TearDown() override { std::filesystem::remove(program.globals.IniPath); }

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "core/RuntimeError.h"
+#include "support/OwnPath.h"
 #include "ui/HelpViewer.h"
 #include "ui/WindowTest.h"
 
@@ -116,7 +117,7 @@ TEST_F(InDesktop, TimersTickWhileTheyRun) {
 }
 
 TEST_F(InDesktop, HelpShowsItsPagesAndReportsThatTheyAreMissing) {
-  const auto folder = std::filesystem::temp_directory_path() / "norvane-help-test";
+  const auto folder = test::OwnPath("help");
   std::filesystem::create_directory(folder);
   std::filesystem::remove(folder / HelpViewer::kFirstPage);
   EXPECT_THROW(desktop.ShowHelp(folder), RuntimeError);

@@ -11,6 +11,7 @@
 
 #include "reports/Layout.h"
 #include "reports/Preview.h"
+#include "support/OwnPath.h"
 #include "ui/PageFonts.h"
 #include "ui/PageOutput.h"
 #include "ui/PagePainter.h"
@@ -126,7 +127,7 @@ TEST_F(PagesInWindow, TextAndRulesStandWhereTheLayoutPutThem) {
 }
 
 TEST_F(PagesInWindow, APdfHoldsRealTextItsTitleAndItsFonts) {
-  const auto file = QString::fromStdString((std::filesystem::temp_directory_path() / "norvane-pages.pdf").string());
+  const auto file = QString::fromStdString(test::OwnPath("pages.pdf").string());
   ASSERT_TRUE(WritePdf(Shown().Pages(), "Client Balances", file));
   const auto read = [&](const QString& tool, const QStringList& arguments) {
     QProcess process;

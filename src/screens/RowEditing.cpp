@@ -17,20 +17,20 @@ RowEditing::RowEditing(Grid& grid, Globals& globals, Reporter& reporter, RowEdit
 
 // The markers.
 
+/// The marker of a row that holds nothing stored, none for one that does.
+std::string_view RowEditing::UnstoredMarker(std::int32_t row) const {
+  const std::string key = grid_.Cell(row, 1);
+  if (key.empty()) return "*";
+  return rules_.zeroMeansStarted && key == "0" ? "?" : "";
+}
+
 void RowEditing::SetOldRowStatus() {
   Trap(reporter_, rules_.labels.setOldRowStatus, [&] {
     const std::int32_t row = RowLeft();
     if (row <= 0) return;
-    const std::string key = grid_.Cell(row, 1);
-    if (key.empty()) {
-      SetMarker(row, "*");
-    } else if (rules_.zeroMeansStarted && key == "0") {
-      SetMarker(row, "?");
-    } else if (row == RowEntered() || row == failedRow_) {
-      SetMarker(row, globals_.RowChanged ? "?" : ">");
-    } else {
-      SetMarker(row, "");
-    }
+    std::string_view marker = UnstoredMarker(row);
+    if (marker.empty() && (row == RowEntered() || row == failedRow_)) marker = globals_.RowChanged ? "?" : ">";
+    SetMarker(row, marker);
   });
 }
 
@@ -38,14 +38,8 @@ void RowEditing::SetNewRowStatus() {
   Trap(reporter_, rules_.labels.setNewRowStatus, [&] {
     const std::int32_t row = RowEntered();
     if (row <= 0) return;
-    const std::string key = grid_.Cell(row, 1);
-    if (key.empty()) {
-      SetMarker(row, "*");
-    } else if (rules_.zeroMeansStarted && key == "0") {
-      SetMarker(row, "?");
-    } else {
-      SetMarker(row, ">");
-    }
+    const std::string_view marker = UnstoredMarker(row);
+    SetMarker(row, marker.empty() ? ">" : marker);
   });
 }
 

@@ -73,6 +73,7 @@ class RowEditing {
 
  private:
   std::int32_t Existing(std::int32_t row) const { return row < grid_.Rows() ? row : 0; }
+  std::string_view UnstoredMarker(std::int32_t row) const;
   bool HoldsNothing(std::int32_t row) const;
   void SendCursorBack();
   void StoreRows();

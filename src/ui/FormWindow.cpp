@@ -108,9 +108,11 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
 }
 
 void FormWindow::Present(QWidget* owner) {
-  if (!isVisible()) BelongTo(owner);
+  // Before there is a native window: once there is one, but not yet its frame, the place would be taken for that of the
+  // page inside.
   if (!placed_) TakeFirstPlace(owner);
   placed_ = true;
+  if (!isVisible()) BelongTo(owner);
   if (isMinimized()) showNormal();
   show();
   raise();

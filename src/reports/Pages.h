@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -14,10 +15,19 @@ inline constexpr double kPointsPerInch = 72.0;
 inline constexpr double kPageWidth = 8.5 * kPointsPerInch;
 inline constexpr double kPageHeight = 11.0 * kPointsPerInch;
 
-/// Where the left edge of the page lies on a paper of another width: pages are never scaled, they stand centred across
-/// and with their tops equal. Negative on A4, whose edges cut a little of the empty margins.
-inline constexpr double LeftOfPageOn(double paperWidth) {
-  return (paperWidth - kPageWidth) / 2;
+/// How a page lies on a sheet of paper: its left edge, which may be beyond the paper's, and by how much it is shrunk.
+struct Placing {
+  double left = 0;
+  double scale = 1;
+};
+
+/// Pages stand centred across, with their tops equal, and keep their size on Letter, on A4 (whose edges cut a little of
+/// the empty margins) and on anything larger; on smaller paper they shrink, so that nothing is lost.
+inline Placing PlaceOn(double paperWidth, double paperHeight) {
+  constexpr double kWidthOfA4 = 595;
+  const double across = paperWidth < kWidthOfA4 ? paperWidth / kPageWidth : 1.0;
+  const double scale = std::min({1.0, across, paperHeight / kPageHeight});
+  return {(paperWidth - kPageWidth * scale) / 2, scale};
 }
 
 /// One run of text on one line. Alignment is resolved: it is drawn from `x` on, without kerning, wrapping or clipping.

@@ -1,5 +1,7 @@
 #include "ui/PagePainter.h"
 
+#include <numeric>
+
 #include <QColor>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -40,17 +42,28 @@ void PaintPage(QPainter& painter, const Pages& document, std::size_t page, QPoin
   }
 }
 
-bool PaintPages(QPagedPaintDevice& device, const Pages& document, std::size_t first, std::size_t last,
-                const std::function<bool(std::size_t)>& onPage) {
+QPageLayout LetterPortrait() {
+  return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Point);
+}
+
+PageNumbers AllPagesOf(const Pages& document) {
+  PageNumbers all(document.pages.size());
+  std::iota(all.begin(), all.end(), 0U);
+  return all;
+}
+
+Painted PaintPages(QPagedPaintDevice& device, const Pages& document, const PageNumbers& wanted,
+                   const PageListener& onPage) {
   QPainter painter;
-  for (std::size_t page = first; page <= last; ++page) {
-    if (!onPage(page)) return false;
-    if (page == first ? !painter.begin(&device) : !device.newPage()) return false;
-    const double scale = device.logicalDpiY() / pages::kPointsPerInch;
-    const double paperWidth = device.pageLayout().fullRectPoints().width();
-    PaintPage(painter, document, page, QPointF(pages::LeftOfPageOn(paperWidth) * scale, 0), scale);
+  for (const std::size_t page : wanted) {
+    if (onPage && !onPage(page)) return Painted::Cancelled;
+    if (!painter.isActive() ? !painter.begin(&device) : !device.newPage()) return Painted::Failed;
+    const QSizeF paper = device.pageLayout().fullRect(QPageLayout::Point).size();
+    const pages::Placing placing = pages::PlaceOn(paper.width(), paper.height());
+    const double unitsPerPoint = device.logicalDpiY() / pages::kPointsPerInch;
+    PaintPage(painter, document, page, QPointF(placing.left * unitsPerPoint, 0), placing.scale * unitsPerPoint);
   }
-  return true;
+  return painter.end() ? Painted::All : Painted::Failed;
 }
 
 }  // namespace norvane::ui

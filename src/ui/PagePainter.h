@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
+#include <QPageLayout>
 #include <QPointF>
 
 #include "reports/Pages.h"
@@ -15,9 +17,24 @@ namespace norvane::ui {
 /// units of the painter make a point.
 void PaintPage(QPainter& painter, const pages::Pages& document, std::size_t page, QPointF corner, double scale);
 
-/// Paints the pages from `first` to `last` (counted from 0) on a printer or a PDF, one to a sheet. `onPage` hears of
-/// each page before it is painted; false ends the work. False if it was ended or the device refused.
-bool PaintPages(QPagedPaintDevice& device, const pages::Pages& document, std::size_t first, std::size_t last,
-                const std::function<bool(std::size_t page)>& onPage);
+/// The paper that pages are made for, to its edges.
+QPageLayout LetterPortrait();
+
+/// Pages counted from 0, in the order in which they are to be painted.
+using PageNumbers = std::vector<std::size_t>;
+PageNumbers AllPagesOf(const pages::Pages& document);
+
+/// Hears of each page before it is painted; false ends the work.
+using PageListener = std::function<bool(std::size_t page)>;
+
+enum class Painted {
+  All,
+  Cancelled,  ///< by the listener
+  Failed,     ///< by the device
+};
+
+/// Paints pages on a printer or into a file, one to a sheet. Documents without pages fail.
+Painted PaintPages(QPagedPaintDevice& device, const pages::Pages& document, const PageNumbers& wanted,
+                   const PageListener& onPage);
 
 }  // namespace norvane::ui

@@ -11,7 +11,8 @@
 #include <QVBoxLayout>
 
 #include "ui/Convert.h"
-#include "ui/PageOutput.h"
+#include "ui/PagePdf.h"
+#include "ui/PagePrinter.h"
 #include "ui/StripLayout.h"
 #include "ui/Theme.h"
 #include "ui/WidgetFactory.h"
@@ -101,7 +102,8 @@ void PreviewWidget::BuildBar() {
   last_ = AddTool("last", "Last Page", [](Preview& p) { p.SetCurrentPage(p.PageCount()); });
   BuildZoomButton();
   strip->AddStretch();
-  print_ = AddTool("print", "Print", [this](Preview& p) { PrintPages(p.Pages(), ToQt(p.Title()), window()); });
+  print_ = AddTool("print", "Print",
+                   [this](Preview& p) { PrintPages(p.Pages(), ToQt(p.Title()), p.CurrentPage(), window()); });
   print_->setShortcut(QKeySequence::Print);
   save_ = AddTool("pdf", "Save as PDF", [this](Preview& p) { SavePagesAsPdf(p.Pages(), ToQt(p.Title()), window()); });
   save_->setShortcut(QKeySequence::Save);

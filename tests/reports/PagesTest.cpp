@@ -85,7 +85,7 @@ TEST_F(PageFixture, TextBoxesStandWhereTheyAreSetAndTheTextBelowTheLowest) {
             "text 0.50in 1.00in 11.25pt \"only this page counts\"\n");
 }
 
-TEST_F(PageFixture, FindsAPlaceInNarrowMarginsOnOtherPaperAndForALineHigherThanAPage) {
+TEST_F(PageFixture, FindsAPlaceInNarrowMarginsAndForALineHigherThanAPage) {
   report.SetMargins("0.5in", "0.25in", "0.25in", "0.5in");
   report.StartDocument();
   report.SetAlignment(Alignment::Right);
@@ -95,8 +95,20 @@ TEST_F(PageFixture, FindsAPlaceInNarrowMarginsOnOtherPaperAndForALineHigherThanA
   report.WriteParagraph("AB");
   EXPECT_EQ(Letters(), "xAB");
   EXPECT_EQ(Laid().pages.size(), 3u);
-  EXPECT_DOUBLE_EQ(LeftOfPageOn(kPageWidth), 0);
-  EXPECT_NEAR(LeftOfPageOn(210 / 25.4 * 72), -8.36, 0.005);
+}
+
+TEST(Placing, KeepsItsSizeOnLetterAndA4AndShrinksOnSmallerPaper) {
+  const auto placed = [](double width, double height) {
+    const Placing placing = PlaceOn(width, height);
+    return std::vector<double>{placing.left, placing.scale};
+  };
+  using ::testing::DoubleNear;
+  using ::testing::ElementsAre;
+  EXPECT_THAT(placed(612, 792), ElementsAre(0, 1));
+  EXPECT_THAT(placed(210 / 25.4 * 72, 297 / 25.4 * 72), ElementsAre(DoubleNear(-8.36, 0.005), 1));
+  EXPECT_THAT(placed(842, 1191), ElementsAre(115, 1));
+  EXPECT_THAT(placed(792, 612), ElementsAre(DoubleNear(159.5, 0.1), DoubleNear(612.0 / 792, 1e-6)));
+  EXPECT_THAT(placed(306, 792), ElementsAre(0, 0.5));
 }
 
 }  // namespace

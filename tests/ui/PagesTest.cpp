@@ -1,69 +1,14 @@
-#include <filesystem>
-
-#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
-#include <QProcess>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QStandardPaths>
 
-#include "reports/Layout.h"
-#include "reports/Preview.h"
-#include "support/OwnPath.h"
 #include "ui/PageFonts.h"
-#include "ui/PageOutput.h"
 #include "ui/PagePainter.h"
-#include "ui/PreviewWidget.h"
-#include "ui/WindowTest.h"
+#include "ui/PagesInWindow.h"
 
 namespace norvane::ui {
 namespace {
-
-/// A report of as many pages as it is told.
-class PagesForm : public Form {
- public:
-  static constexpr const char* kName = "PagesForm";
-  explicit PagesForm(Program& owner)
-      : Form(owner, kName, {.caption = "Client Balances", .width = 9000, .height = 9000}) {
-    SetLayout(layout::Column({layout::Stretch(VSInvoice)}));
-    Build(3);
-  }
-  void Build(int pages) {
-    VSInvoice.Clear();
-    VSInvoice.SetMargins("0.5in", "0.5in", "0.5in", "0.5in");
-    VSInvoice.StartDocument();
-    for (int page = 1; page <= pages; ++page) {
-      if (page > 1) VSInvoice.NewPage();
-      VSInvoice.WriteParagraph("Sheet " + std::to_string(page) + " for Zoë & Søn");
-      VSInvoice.StartTable();
-      VSInvoice.SetTableBorder(pages::TableBorder::Grid);
-      VSInvoice.AddTable("2in|>1in;", "Client|Balance;", "Adams, Henry|$1,234.50;");
-      VSInvoice.EndTable();
-    }
-    VSInvoice.EndDocument();
-  }
-  Preview VSInvoice{*this, "VSInvoice"};
-};
-
-class PagesInWindow : public WindowTest {
- protected:
-  PagesInWindow() {
-    program.screens.Add<PagesForm>();
-    program.screens.Show(PagesForm::kName);
-    Settle();
-  }
-  PagesForm& Report() { return program.screens.Touch<PagesForm>(); }
-  Preview& Shown() { return Report().VSInvoice; }
-  PreviewWidget& View() { return Of<PreviewWidget>(Shown()); }
-  QPushButton& Tool(const QString& name) {
-    for (auto* tool : View().findChildren<QPushButton*>()) {
-      if (tool->accessibleName() == name) return *tool;
-    }
-    throw std::logic_error("no tool " + name.toStdString());
-  }
-};
 
 TEST_F(PagesInWindow, TheBarTurnsThePages) {
   EXPECT_EQ(Shown().PageCount(), 3);
@@ -124,28 +69,6 @@ TEST_F(PagesInWindow, TextAndRulesStandWhereTheLayoutPutThem) {
   }
   EXPECT_GT(dark, 10);
   EXPECT_EQ(paper.pixelColor(5, 5), Qt::white);
-}
-
-TEST_F(PagesInWindow, APdfHoldsRealTextItsTitleAndItsFonts) {
-  const auto file = QString::fromStdString(test::OwnPath("pages.pdf").string());
-  ASSERT_TRUE(WritePdf(Shown().Pages(), "Client Balances", file));
-  const auto read = [&](const QString& tool, const QStringList& arguments) {
-    QProcess process;
-    process.start(tool, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
-  };
-  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no PDF reader here";
-  const QString text = read("pdftotext", {"-layout", file, "-"});
-  EXPECT_TRUE(text.contains("Sheet 2 for Zoë & Søn")) << text.toStdString();
-  EXPECT_TRUE(text.contains("$1,234.50"));
-  const QString info = read("pdfinfo", {file});
-  EXPECT_TRUE(info.contains(QRegularExpression("Title: +Client Balances")));
-  EXPECT_TRUE(info.contains(QRegularExpression("Pages: +3")));
-  EXPECT_TRUE(info.contains("612 x 792 pts"));
-  EXPECT_TRUE(read("pdffonts", {file}).contains(QRegularExpression("yes +(yes|no) +yes")))
-      << "embedded, and with the text they stand for";
-  QFile::remove(file);
 }
 
 TEST(PageFonts, AreMeasuredAsDesigned) {

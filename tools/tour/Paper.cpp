@@ -7,8 +7,7 @@
 #include <QPainter>
 
 #include "reports/Preview.h"
-#include "ui/PageOutput.h"
-#include "ui/PagePainter.h"
+#include "ui/PagePdf.h"
 
 namespace norvane::tour {
 namespace {
@@ -42,7 +41,8 @@ std::size_t WritePaper(const Form& form, const std::filesystem::path& folder, co
   const pages::Pages* document = DocumentOf(form);
   if (document == nullptr || document->pages.empty()) return 0;
   const QString base = QString::fromStdString((folder / name).string());
-  Insist(ui::WritePdf(*document, QString::fromStdString(form.Caption()), base + ".pdf"), base + ".pdf");
+  const QString title = QString::fromStdString(form.Caption());
+  Insist(ui::WritePdf(*document, title, base + ".pdf").painted == ui::Painted::All, base + ".pdf");
   const std::size_t pictures = std::min(document->pages.size(), kPicturedPages);
   for (std::size_t page = 0; page < pictures; ++page) {
     const QString file = QString("%1-%2.png").arg(base).arg(page + 1);

@@ -1,0 +1,62 @@
+#include "ui/PagePdf.h"
+
+#include <QFileDialog>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include "forms/Desktop.h"
+#include "ui/PageProgress.h"
+#include "ui/Warning.h"
+
+namespace norvane::ui {
+namespace {
+
+constexpr int kPdfResolution = 1200;
+
+/// A path to begin with: the document's title in the user's folder of documents, without what names of files can't
+/// have.
+QString SuggestedFile(QString title) {
+  title.replace('/', '-');
+  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/" + title + ".pdf";
+}
+
+/// Empty if the user doesn't choose one.
+QString AskForFile(const QString& title, QWidget* parent) {
+  QFileDialog dialog(parent, "Save as PDF", SuggestedFile(title), "PDF (*.pdf)");
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("pdf");
+  dialog.selectFile(SuggestedFile(title));
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+}  // namespace
+
+PdfOutcome WritePdf(const pages::Pages& document, const QString& title, const QString& file,
+                    const PageListener& onPage) {
+  QSaveFile target(file);
+  Painted painted = Painted::Failed;
+  if (target.open(QIODevice::WriteOnly)) {
+    QPdfWriter writer(&target);
+    writer.setTitle(title);
+    writer.setCreator(kApplicationTitle);
+    writer.setResolution(kPdfResolution);
+    writer.setPageLayout(LetterPortrait());
+    painted = PaintPages(writer, document, AllPagesOf(document), onPage);
+  }
+  if (painted == Painted::All && !target.commit()) painted = Painted::Failed;
+  return {painted, target.errorString()};
+}
+
+void SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent) {
+  const QString file = AskForFile(title, parent);
+  if (file.isEmpty()) return;
+  const PdfOutcome outcome = [&] {
+    PageProgress progress(title, file, document.pages.size(), document.pages.size(), parent);
+    return WritePdf(document, title, file, [&](std::size_t page) { return progress.Next(page); });
+  }();
+  if (outcome.painted != Painted::Failed) return;
+  Warn(parent, QString("The file %1 could not be written: %2.").arg(file, outcome.why));
+}
+
+}  // namespace norvane::ui

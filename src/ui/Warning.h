@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace norvane::ui {
+
+/// Tells of something that a window could not do for the user.
+void Warn(QWidget* parent, const QString& text);
+
+}  // namespace norvane::ui

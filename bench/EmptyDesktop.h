@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ctime>
 #include <stdexcept>
 
 #include "forms/Desktop.h"
@@ -27,12 +26,5 @@ class EmptyDesktop : public Desktop {
   std::filesystem::path CurrentFolder() const override { return {}; }
   std::vector<std::filesystem::path> Drives() const override { return {}; }
 };
-
-/// Of the processor, so that a busy machine doesn't count.
-inline double Seconds(const auto& work) {
-  const std::clock_t start = std::clock();
-  work();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 }  // namespace norvane

@@ -2,13 +2,12 @@
 // run, both sides in turn on the same file.
 
 #include <benchmark/benchmark.h>
-#include <chrono>
-#include <malloc.h>
 #include <memory>
 #include <sqlite3.h>
 #include <string>
 #include <vector>
 
+#include "Measuring.h"
 #include "core/Clock.h"
 #include "core/Conversions.h"
 #include "core/Reporter.h"
@@ -92,29 +91,6 @@ class ByHand {
   std::unique_ptr<sqlite3, decltype(&sqlite3_close)> connection_{nullptr, &sqlite3_close};
 };
 
-/// Of the processor, so that a busy machine doesn't count.
-double Seconds(const auto& work) {
-  const std::clock_t start = std::clock();
-  work();
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
-
-/// Runs both in turn. The time shown is ours; `ratio` is ours to the bare one's.
-void Compare(benchmark::State& state, const auto& ours, const auto& bare, double limit) {
-  ours();
-  bare();
-  double ourTime = 0;
-  double bareTime = 0;
-  for (auto _ : state) {
-    const double seconds = Seconds(ours);
-    state.SetIterationTime(seconds);
-    ourTime += seconds;
-    bareTime += Seconds(bare);
-  }
-  state.counters["ratio"] = ourTime / bareTime;
-  state.counters["limit"] = limit;
-}
-
 std::string CellText(sqlite3_stmt* row, int column) {
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
   return text ? text : "";
@@ -167,7 +143,7 @@ void ClientBalOf2000Invoices(benchmark::State& state) {
   Books books(10, 20'000, 5);
   const auto client = books.Opened<Client>();
   const int tomorrow = books.clock.Today().Day() + 1;
-  Compare(
+  bench::Compare(
       state,
       [&] {
         Date date;
@@ -180,7 +156,7 @@ BENCHMARK(ClientBalOf2000Invoices)->UseManualTime()->Unit(benchmark::kMillisecon
 void ClientBalsOver100000Invoices(benchmark::State& state) {
   Books books(5'000, 100'000, 5);
   const auto client = books.Opened<Client>();
-  Compare(
+  bench::Compare(
       state, [&] { benchmark::DoNotOptimize(client->ClientBals()->RecordCount()); },
       [&] {
         const ByHand connection(books.database);
@@ -209,7 +185,7 @@ struct InvoiceRow {
 void GetAllInvoicesOver50000(benchmark::State& state) {
   Books books(2'000, 50'000, 3);
   const auto invoice = books.Opened<Invoice>();
-  Compare(
+  bench::Compare(
       state, [&] { benchmark::DoNotOptimize(invoice->GetAllInvoices(Date(30'000))->RecordCount()); },
       [&] {
         const ByHand connection(books.database);
@@ -227,11 +203,6 @@ void GetAllInvoicesOver50000(benchmark::State& state) {
       1.6);
 }
 BENCHMARK(GetAllInvoicesOver50000)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(4);
-
-std::size_t BytesInUse() {
-  const struct mallinfo2 use = mallinfo2();
-  return use.uordblks + use.hblkhd;
-}
 
 std::size_t TextOf(const Object<Recordset>& rows) {
   std::size_t size = 0;
@@ -251,11 +222,11 @@ void Weigh(benchmark::State& state, auto& object, const auto& read) {
     object.OpenCn();
     const Object<Recordset> before = read();
     object.CloseCn();
-    const std::size_t start = BytesInUse();
+    const std::size_t start = bench::BytesInUse();
     object.OpenCn();
     const Object<Recordset> list = read();
     object.CloseCn();
-    weight = BytesInUse() - start;
+    weight = bench::BytesInUse() - start;
     text = TextOf(list);
   }
   state.counters["ratio"] = static_cast<double>(weight) / static_cast<double>(text);

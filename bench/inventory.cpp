@@ -6,6 +6,7 @@
 #include <string>
 
 #include "EmptyDesktop.h"
+#include "Measuring.h"
 #include "core/store/Recordset.h"
 #include "forms/Program.h"
 #include "screens/Customer.h"
@@ -47,10 +48,10 @@ void Open(benchmark::State& state) {
   double whole = 0;
   double reading = 0;
   for (auto _ : state) {
-    const double seconds = Seconds([&] { room.program.screens.Touch<Customer>().btnInventory.Press(); });
+    const double seconds = bench::Seconds([&] { room.program.screens.Touch<Customer>().btnInventory.Press(); });
     state.SetIterationTime(seconds);
     whole += seconds;
-    reading += Seconds([&] { room.Read(); });
+    reading += bench::Seconds([&] { room.Read(); });
     room.Screen().Unload();
   }
   state.counters["ratio"] = whole / reading;
@@ -63,7 +64,7 @@ void EditAndLeaveARow(benchmark::State& state) {
   Grid& list = room.Screen().InventoryList;
   int row = kItems / 2;
   for (auto _ : state) {
-    state.SetIterationTime(Seconds([&] {
+    state.SetIterationTime(bench::Seconds([&] {
       list.UserClick(row, 5);
       list.UserText(std::to_string(row % 50 + 50));
       list.UserKey(Key::Down);

@@ -1,38 +1,14 @@
 // The layout of documents, without painting.
 
 #include <benchmark/benchmark.h>
-#include <string>
 
+#include "LongList.h"
 #include "reports/Layout.h"
 #include "support/PinnedFontMetrics.h"
 #include "support/SampleInvoice.h"
 
 namespace norvane::pages {
 namespace {
-
-constexpr int kRowsPerPage = 40;
-
-/// A list of six columns that fills so many pages.
-Document ListOf(std::int64_t pages) {
-  constexpr auto kFormat = ">0.5in|2.75in|>1in|^0.75in|^0.75in|1.75in;";
-  constexpr auto kHeading = "Item#|Description|Charge|Par|In Stock|Warranty;";
-  DocumentBuilder report;
-  report.SetMargins("0.5in", "0.5in", "0.5in", "0.5in");
-  report.StartDocument();
-  report.SetHeader("Inventory|Norvane & Daughters|11/22/2026");
-  report.StartTable();
-  report.SetTableBorder(TableBorder::List);
-  report.AddTable(kFormat, kHeading, "");
-  report.SetTableRowHeight(0, "0.25in");
-  for (int row = 1; row < pages * (kRowsPerPage - 1) + 1; ++row) {
-    const std::string number = std::to_string(row);
-    report.AddTable(kFormat, kHeading, number + "|Oak table, model " + number + "|$1,234.50|5|12|Two years;");
-    report.SetTableRowHeight(row, "0.25in");
-  }
-  report.EndTable();
-  report.EndDocument();
-  return *report.Recorded();
-}
 
 template <class T>
 std::size_t Bytes(const std::vector<T>& items) {
@@ -58,7 +34,9 @@ BENCHMARK(OneInvoice)->Unit(benchmark::kMillisecond);
 // Time and memory have to grow with the pages, not faster.
 void List(benchmark::State& state) {
   const PinnedFontMetrics metrics;
-  const Document document = ListOf(state.range(0));
+  DocumentBuilder report;
+  WriteList(report, state.range(0));
+  const Document& document = *report.Recorded();
   Pages pages;
   for (auto _ : state) pages = LayOut(document, metrics);
   const auto count = static_cast<double>(pages.pages.size());

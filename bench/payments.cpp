@@ -4,6 +4,7 @@
 #include <string>
 
 #include "EmptyDesktop.h"
+#include "Measuring.h"
 #include "core/store/Recordset.h"
 #include "data/Invoice.h"
 #include "forms/Program.h"
@@ -49,10 +50,10 @@ void Reload(benchmark::State& state) {
   double whole = 0;
   double reading = 0;
   for (auto _ : state) {
-    const double seconds = Seconds([&] { book.Screen().btnGo.Press(); });
+    const double seconds = bench::Seconds([&] { book.Screen().btnGo.Press(); });
     state.SetIterationTime(seconds);
     whole += seconds;
-    reading += Seconds([&] { book.Read(); });
+    reading += bench::Seconds([&] { book.Read(); });
   }
   state.counters["ratio"] = whole / reading;
   state.counters["rows"] = book.Screen().PaymentList.Rows();

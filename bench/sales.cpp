@@ -4,6 +4,7 @@
 #include <string>
 
 #include "EmptyDesktop.h"
+#include "Measuring.h"
 #include "forms/Program.h"
 #include "screens/CustInvoices.h"
 #include "screens/Customer.h"
@@ -47,21 +48,9 @@ struct Shop {
   CustInvoices& Sales() { return program.screens.Touch<CustInvoices>(); }
 };
 
-/// `ratio` is the time taken to the time allowed; the limit is 1.
-void Measure(benchmark::State& state, double allowed, const auto& work) {
-  double taken = 0;
-  for (auto _ : state) {
-    const double seconds = Seconds(work);
-    state.SetIterationTime(seconds);
-    taken += seconds;
-  }
-  state.counters["ratio"] = taken / static_cast<double>(state.iterations()) / allowed;
-  state.counters["limit"] = 1;
-}
-
 void ListOf50000Invoices(benchmark::State& state) {
   Shop shop(50'000, 3);
-  Measure(state, 1.0, [&] { shop.Sales().btnGo.Press(); });
+  bench::Measure(state, 1.0, [&] { shop.Sales().btnGo.Press(); });
   if (shop.Sales().InvoiceList.Rows() != 50'001) state.SkipWithError("the list is not complete");
 }
 BENCHMARK(ListOf50000Invoices)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(3);
@@ -76,7 +65,7 @@ void EditOnAnInvoiceOf200Lines(benchmark::State& state) {
   const int row = static_cast<int>(state.range(0));
   int quantity = 3;
   lines.UserClick(row, InvoiceDetail::kQuantity);
-  Measure(state, 0.05, [&] {
+  bench::Measure(state, 0.05, [&] {
     test::Type(lines, std::to_string(quantity));
     lines.UserKey(row == 1 ? Key::Down : Key::Up);
     lines.UserClick(row, InvoiceDetail::kQuantity);

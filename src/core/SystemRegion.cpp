@@ -39,7 +39,7 @@ class LocaleGuard {
 std::string Utf8(const char* text) {
   std::string from(text);
   const iconv_t converter = iconv_open("UTF-8", nl_langinfo(CODESET));
-  if (converter == reinterpret_cast<iconv_t>(-1)) return {};
+  if (converter == reinterpret_cast<iconv_t>(-1)) return {};  // NOLINT(performance-no-int-to-ptr): as it tells failure
   std::string to(from.size() * 4, '\0');
   char* in = from.data();
   char* out = to.data();

@@ -121,7 +121,7 @@ class Grid : public Control {
   bool Editing() const;
   bool BeginEdit(BeginBy by = BeginBy::Command);
   const std::string& EditText() const;
-  void SetEditText(std::string text);
+  void SetEditText(const std::string& text);
   /// AfterEdit if the content changed.
   void CommitEdit();
   void CancelEdit();

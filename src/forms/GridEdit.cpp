@@ -79,7 +79,7 @@ const std::string& Grid::EditText() const {
   return Editing() ? model_->edit->text : kNone;
 }
 
-void Grid::SetEditText(std::string text) {
+void Grid::SetEditText(const std::string& text) {
   if (!Editing()) return;
   const GridColumn& column = model_->Column(Col());
   if (column.HasList()) {

@@ -56,12 +56,10 @@ Node Group(Control& frame, Node content) {
   return node;
 }
 
-Node Tabs(Control& tabControl, std::vector<std::pair<std::string, Node>> tabs) {
+Node Tabs(Control& tabControl, const std::vector<std::pair<std::string, Node>>& tabs) {
   Node node(Kind::Tabs);
   node.control = &tabControl;
-  for (auto& [caption, content] : tabs) {
-    node.children.push_back(Captioned(Kind::Tab, std::move(caption), std::move(content)));
-  }
+  for (const auto& [caption, content] : tabs) node.children.push_back(Captioned(Kind::Tab, caption, content));
   return node;
 }
 

@@ -40,7 +40,7 @@ Node Fields(Nodes fields, int columns = 1);
 Node Field(std::string label, Node content);
 Node Group(std::string caption, Node content);
 Node Group(Control& frame, Node content);
-Node Tabs(Control& tabControl, std::vector<std::pair<std::string, Node>> tabs);
+Node Tabs(Control& tabControl, const std::vector<std::pair<std::string, Node>>& tabs);
 /// Takes a share of the room left over.
 Node Stretch(Node node, int share = 1);
 /// Room left over goes here.

@@ -37,8 +37,8 @@ Customer::Customer(Program& host) : Form(host, kName, {.caption = "Norvanes", .w
 
 /// A way to a screen that the program doesn't hold stands there disabled.
 template <class Way>
-void Customer::Leads(Way& way, std::string_view screen, std::function<void()> handler) {
-  way.Click = std::move(handler);
+void Customer::Leads(Way& way, std::string_view screen, const std::function<void()>& handler) {
+  way.Click = handler;
   way.SetEnabled(screens.Has(screen));
 }
 

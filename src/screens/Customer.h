@@ -76,7 +76,7 @@ class Customer : public Form {
   void WireButtons();
   void WireMenu();
   template <class Way>
-  void Leads(Way& way, std::string_view screen, std::function<void()> handler);
+  void Leads(Way& way, std::string_view screen, const std::function<void()>& handler);
 
   void Form_Load() override;
   void CreateSharedObjects();

@@ -90,7 +90,7 @@ std::filesystem::path HelpPages(const std::filesystem::path& folder) {
 
 }  // namespace
 
-QtDesktop::QtDesktop(RegionalSettings settings, Theme theme) {
+QtDesktop::QtDesktop(const RegionalSettings& settings, Theme theme) {
   QApplication::setQuitOnLastWindowClosed(false);
   ApplyTheme(*qApp, theme);
   RegisterStandardWidgets(widgets_, settings);

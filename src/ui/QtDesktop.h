@@ -23,7 +23,7 @@ class HelpViewer;
 /// outlive the program that it serves.
 class QtDesktop : public Desktop {
  public:
-  explicit QtDesktop(RegionalSettings settings = {}, Theme theme = Theme::System);
+  explicit QtDesktop(const RegionalSettings& settings = {}, Theme theme = Theme::System);
   ~QtDesktop() override;
 
   /// Where rooms register the widgets of controls of their own, before the first form is shown.

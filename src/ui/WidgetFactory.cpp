@@ -1,12 +1,10 @@
 #include "ui/WidgetFactory.h"
 
-#include <ranges>
-
 namespace norvane::ui {
 
 Binding* WidgetFactory::Make(Control& control, QWidget* parent) const {
-  for (const auto& maker : std::views::reverse(makers_)) {
-    if (Binding* binding = maker(control, parent)) return binding;
+  for (auto maker = makers_.rbegin(); maker != makers_.rend(); ++maker) {
+    if (Binding* binding = (*maker)(control, parent)) return binding;
   }
   return nullptr;
 }

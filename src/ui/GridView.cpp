@@ -179,7 +179,7 @@ QRect GridView::CurrentCell() const {
 /// What the texts take and whether they are figures, told by the first rows: all of them would take too long, and they
 /// are of a kind.
 void GridView::MeasureColumns() {
-  needs_.assign(static_cast<std::size_t>(grid_->Cols()), 0);
+  needs_.assign(static_cast<std::size_t>(grid_->Cols()), {});
   std::vector<bool> figures(needs_.size(), false);
   for (int col = 0; col < grid_->Cols(); ++col) {
     if (grid_->ColWidth(col) == 0) continue;
@@ -187,7 +187,8 @@ void GridView::MeasureColumns() {
     const ColumnContent content = LookAt(col);
     const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
-    needs_[at] = std::min(content.width + 2 * GridCellPainter::kPadding + 1 + helper, kWidestText);
+    const int text = content.width + 2 * GridCellPainter::kPadding + 1;
+    needs_[at] = {.whole = std::min(text + helper, kWidestText), .least = content.isExact ? text : kNarrowest};
     figures[at] = content.isFigures;
   }
   table_->SetFigures(std::move(figures));
@@ -195,6 +196,7 @@ void GridView::MeasureColumns() {
 
 GridView::ColumnContent GridView::LookAt(int col) const {
   static const QRegularExpression figure(R"(^[-(]?[^\w\s/-]?\d[\d.,]*[^\w\s/-]?[-)]?$)");
+  static const QRegularExpression exact(R"(^[-(]?[^\w\s/-]?\d[\d.,/-]*[.,/-]\d+[^\w\s/-]?[-)]?$)");
   ColumnContent content;
   int filled = 0;
   const int rows = std::min(grid_->Rows(), kRowsMeasured);
@@ -204,12 +206,14 @@ GridView::ColumnContent GridView::LookAt(int col) const {
     if (row == 0 || text.isEmpty()) continue;
     ++filled;
     content.isFigures = (filled == 1 || content.isFigures) && figure.match(text).hasMatch();
+    content.isExact = (filled == 1 || content.isExact) && exact.match(text).hasMatch();
   }
   return content;
 }
 
-/// Each column first gets the width it was given or what its texts need, whichever is less; then, as far as there is
-/// room, what the texts need; then it grows with the font. The rest is the last column's.
+/// Each column first gets the width it was given or what its texts need, whichever is less, but amounts and dates,
+/// which are of no use when they are cut off, get what they need; then, as far as there is room, all texts get
+/// it; then it grows with the font. The rest is the last column's.
 void GridView::ArrangeColumns() {
   const QScopedValueRollback arranging(arranging_, true);
   std::vector<int> widths(needs_.size(), 0);
@@ -218,13 +222,14 @@ void GridView::ArrangeColumns() {
     for (std::size_t col = 0; col < widths.size(); ++col) {
       const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
       if (given == 0) continue;
-      const int more = std::clamp(wanted(given, needs_[col]) - widths[col], 0, std::max(0, room));
+      const int more = std::clamp(wanted(given, needs_[col].whole) - widths[col], 0, std::max(0, room));
       widths[col] += more;
       room -= more;
     }
   };
   for (std::size_t col = 0; col < widths.size(); ++col) {
-    widths[col] = std::min(ToPixels(grid_->ColWidth(static_cast<int>(col))), std::max(needs_[col], kNarrowest));
+    const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
+    if (given > 0) widths[col] = std::max(std::min(given, needs_[col].whole), needs_[col].least);
     room -= widths[col];
   }
   raise([](int, int need) { return need; });

@@ -56,6 +56,12 @@ class GridView : public QTableView, private GridObserver {
   struct ColumnContent {
     int width = 0;  ///< of its widest text, in pixels
     bool isFigures = false;
+    bool isExact = false;  ///< amounts or dates
+  };
+  /// What a column's texts take, in pixels.
+  struct Needs {
+    int whole = 0;
+    int least = 0;  ///< without which they could not be read
   };
   ColumnContent LookAt(int col) const;
   int ColumnForRest() const;
@@ -74,7 +80,7 @@ class GridView : public QTableView, private GridObserver {
   GridCellEditor* editor_;
   Binding* binding_;
   std::map<int, int> userWidths_;  ///< by column, in pixels
-  std::vector<int> needs_;         ///< by column: what its texts take, in pixels
+  std::vector<Needs> needs_;       ///< by column
   bool waiting_ = false;           ///< it has to catch up
   bool allWaiting_ = true;
   bool arranging_ = false;

@@ -1,5 +1,4 @@
-// Pages on paper and in the preview, with the fonts of this machine. Offscreen, so that a window system's speed stays
-// out of it.
+// Pages on paper and in the preview, with the fonts of this machine.
 
 #include <QApplication>
 #include <QFile>
@@ -9,6 +8,7 @@
 
 #include "LongList.h"
 #include "Measuring.h"
+#include "Offscreen.h"
 #include "forms/Form.h"
 #include "forms/Program.h"
 #include "reports/Layout.h"
@@ -202,9 +202,5 @@ BENCHMARK(WeightOfPreview)->Arg(10)->Arg(100)->Arg(1'000)->Iterations(1)->Unit(b
 }  // namespace norvane::ui
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
+  return norvane::bench::RunOffscreen(argc, argv);
 }

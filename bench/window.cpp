@@ -1,11 +1,10 @@
 // From the start of the program to a main window that a person can use, and the client list anew, with a hundred
-// thousand clients. Offscreen, so that a window system's speed stays out of it.
+// thousand clients.
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
 #include "LargeBusiness.h"
+#include "Offscreen.h"
 #include "app/Composition.h"
 #include "core/RegionalSettings.h"
 #include "forms/Form.h"
@@ -53,9 +52,5 @@ BENCHMARK(ClientListAnew)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime(
 }  // namespace norvane
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
+  return norvane::bench::RunOffscreen(argc, argv);
 }

@@ -9,32 +9,12 @@
 
 #include "Check.h"
 #include "core/RuntimeError.h"
+#include "support/Machines.h"
 
 namespace norvane {
 namespace {
 
-class FixedClock : public Clock {
- public:
-  Date Now() const override { return Date(46348); }
-};
-
-const FixedClock kClock;
-
-RegionalSettings OtherWayRound() {
-  RegionalSettings settings;
-  settings.decimalPoint = settings.currencyDecimalPoint = ",";
-  settings.thousandsSeparator = settings.currencyThousandsSeparator = ".";
-  settings.currencySymbol = "€";
-  settings.positiveCurrency = "%n %s";
-  settings.negativeCurrency = "-%n %s";
-  settings.dateOrder = RegionalSettings::DateOrder::DayMonthYear;
-  settings.dateSeparator = ".";
-  settings.shortDate = "dd.MM.yyyy";
-  settings.time = "HH:mm:ss";
-  return settings;
-}
-
-const Conversions kMachines[] = {Conversions(RegionalSettings{}, kClock), Conversions(OtherWayRound(), kClock)};
+const Conversions* const kMachines[] = {&kUnitedStates, &kGermany};
 
 template <class Conversion>
 void ExpectValueOrError(Conversion conversion) {
@@ -96,7 +76,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::memcpy(&bits, data, std::min(size, sizeof bits));
   double number = 0;
   std::memcpy(&number, &bits, sizeof number);
-  for (const Conversions& convert : kMachines) {
+  for (const Conversions* machine : kMachines) {
+    const Conversions& convert = *machine;
     ReadText(convert, text);
     WriteDouble(convert, number);
     WriteCurrency(convert, Currency::FromTenThousandths(static_cast<std::int64_t>(bits)));

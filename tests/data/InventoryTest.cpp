@@ -55,23 +55,4 @@ TEST_F(InventoryTest, AnItemIsReadAndSavedUnderTheNumberPassedBack) {
   EXPECT_THAT(database.Rows("select * from tb_Inventory where ItemNum > 1001"), ElementsAre("1003|1||0|0|0|none"));
 }
 
-TEST_F(InventoryTest, NullsStopTheReadingOfAnItemWhereTheyStand) {
-  const std::vector<std::string> order = {"Description", "Charge", "Par", "InStock"};
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    SCOPED_TRACE(order[i]);
-    database.Execute(
-        "delete from tb_Inventory; insert into tb_Inventory values (8, 2, 'new', 10000, 1, 1, null);"
-        "update tb_Inventory set " +
-        order[i] + " = null");
-    const auto item = Opened<Inventory>();
-    item->GetItem(8);
-    ExpectReport("Inventory.GetItem -", 94);
-    EXPECT_EQ(item->Category, 2);
-    EXPECT_EQ(item->description == "new", i > 0);
-    EXPECT_EQ(item->charge == Money(1), i > 1);
-    EXPECT_EQ(item->Par == 1, i > 2);
-    EXPECT_EQ(item->InStock, 0);
-  }
-}
-
 }  // namespace norvane::test

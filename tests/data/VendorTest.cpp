@@ -31,18 +31,6 @@ TEST_F(VendorTest, EveryColumnComesAndGoesBack) {
   EXPECT_EQ(vendor->CardNum1, "kept");
 }
 
-TEST_F(VendorTest, WhatFailsLeavesTheProperties) {
-  database.Execute("insert into tb_Vendor (VendorNum, Company, Notes) values (1001, 'Acme', 'new')");
-  vendor->Notes = vendor->Company = "old";
-  vendor->GetVendor("O'Hara");
-  ExpectReport("Vendor.GetVendor -", kSyntaxError);
-  EXPECT_EQ(vendor->Notes, "old");
-  vendor->GetVendor("Acme");
-  ExpectReport("Vendor.GetVendor -", 94);
-  EXPECT_EQ(vendor->Notes, "new");
-  EXPECT_EQ(vendor->Company, "old") << "it is read after the Discount that is Null";
-}
-
 TEST_F(VendorTest, ListAndNames) {
   database.Execute("insert into tb_Vendor (VendorNum, Company) values (1001, 'beta'), (1002, 'Alpha'), (1003, 'Beta')");
   EXPECT_THAT(Rows(vendor->GetAllVendors(), {"company", "vendornum"}),

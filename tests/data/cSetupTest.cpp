@@ -29,19 +29,6 @@ TEST_F(cSetupTest, EverySaveAddsABlankToTheSecondAddress) {
   EXPECT_THAT(database.Rows("select * from tb_Company"), ElementsAre(row));
 }
 
-TEST_F(cSetupTest, NullsStopTheReadingInTheNameAndTheRateAlone) {
-  setup->Name = setup->Address1 = "old";
-  database.Execute("insert into tb_Company (Address1, Statetaxrate) values ('new', 5)");
-  setup->GetCompanyInfo();
-  ExpectReport("cSetup.GetCompanyInfo -", 94);
-  EXPECT_EQ(setup->Address1, "old");
-  database.Execute("update tb_Company set Name = 'Acme', Address1 = null, Statetaxrate = null");
-  setup->GetCompanyInfo();
-  ExpectReport("cSetup.GetCompanyInfo -", 94);
-  EXPECT_EQ(setup->Name, "Acme");
-  EXPECT_EQ(setup->Address1, "");
-}
-
 TEST_F(cSetupTest, TypesAreKeysWhateverTheirCase) {
   database.Clear();
   setup->SavePaymentType("check");

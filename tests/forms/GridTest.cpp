@@ -133,41 +133,5 @@ TEST_F(GridTest, ScrollsTheCursorIntoViewAndClampsTheTop) {
   EXPECT_EQ(g.TopRow(), 1) << "a taller window shows them all";
 }
 
-/// Writes down what an observer hears of a grid.
-struct Observer : GridObserver {
-  explicit Observer(Grid& g) : grid(g) { grid.view = this; }
-  ~Observer() override { grid.view = nullptr; }
-  void ColumnsChanged() override { heard.emplace_back("columns"); }
-  void RowsReset() override { heard.emplace_back("reset"); }
-  void RowsInserted(int first, int count) override { Rows("inserted", first, count); }
-  void RowsRemoved(int first, int count) override { Rows("removed", first, count); }
-  void CellChanged(int row, int col) override { Rows("cell", row, col); }
-  void CursorMoved() override { heard.push_back("cursor " + std::to_string(grid.Row())); }
-  void TopRowChanged() override { heard.push_back("top " + std::to_string(grid.TopRow())); }
-  void EditChanged() override { heard.push_back("edit " + grid.EditText()); }
-  void Rows(const std::string& what, int a, int b) {
-    heard.push_back(what + " " + std::to_string(a) + " " + std::to_string(b));
-  }
-  Grid& grid;
-  Log heard;
-};
-
-TEST_F(GridTest, TheObserverHearsEveryChange) {
-  Observer observer(grid());
-  grid().SetRow(3);
-  grid().AddItem("x", 1);
-  grid().SetRows(2);
-  grid().RemoveItem(1);
-  grid().SetRows(3);
-  grid().SetCell(1, 2, "x");
-  grid().Clear();
-  EXPECT_THAT(observer.heard, ElementsAre("cursor 3", "inserted 1 1", "removed 2 3", "cursor 1", "removed 1 1",
-                                          "cursor 0", "inserted 1 2", "cursor 1", "cell 1 2", "reset"));
-  observer.heard.clear();
-  Type(grid(), "ab");
-  grid().UserKey(Key::Enter);
-  EXPECT_THAT(observer.heard, ElementsAre("edit ", "edit a", "edit ab", "cell 1 2", "edit "));
-}
-
 }  // namespace
 }  // namespace norvane::test

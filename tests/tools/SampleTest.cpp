@@ -1,7 +1,6 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <iterator>
-#include <sys/stat.h>
 
 #include "sample/Sample.h"
 #include "support/Database.h"
@@ -48,13 +47,6 @@ TEST_F(SampleTest, NeverTouchesADatabaseThatIsThere) {
                std::runtime_error);
   EXPECT_EQ(Bytes(database.File()), before);
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(database.Folder()), {}), 1) << "a draft is left";
-}
-
-TEST_F(SampleTest, IsForItsOwnerAlone) {
-  Write({.size = {}, .seed = 1, .today = kToday});
-  struct stat status {};
-  ASSERT_EQ(stat(database.File().c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777, 0600u);
 }
 
 TEST_F(SampleTest, HasTheSizeAskedFor) {

@@ -21,6 +21,11 @@ constexpr double kThumbnail = 0.2;
 constexpr double kSmallest = 0.1;
 constexpr double kZoomStep = 1.15;
 
+/// What is smaller than its room stands in the middle.
+double Margin(int room, double all) {
+  return std::max<double>(kGap, (room - all) / 2);
+}
+
 }  // namespace
 
 PageCanvas::PageCanvas(QWidget* parent) : QAbstractScrollArea(parent) {
@@ -72,6 +77,10 @@ double PageCanvas::ScaleFor(QSize room) const {
   return kPixelsPerPoint;
 }
 
+int PageCanvas::Rows() const {
+  return (PageCount() + columns_ - 1) / columns_;
+}
+
 void PageCanvas::Arrange() {
   const QScopedValueRollback going(going_, true);
   const QSize room = viewport()->size();
@@ -81,9 +90,8 @@ void PageCanvas::Arrange() {
   const bool isFitted = choice_ == ZoomChoice::PageWidth || choice_ == ZoomChoice::TwoPages;
   const int most = choice_ == ZoomChoice::PageWidth ? 1 : 2;
   columns_ = std::max(1, isFitted ? most : std::min(fitting, PageCount()));
-  const int rows = (PageCount() + columns_ - 1) / columns_;
   const double width = kGap + columns_ * (page.width() + kGap);
-  const double height = kGap + rows * (page.height() + kGap);
+  const double height = kGap + Rows() * (page.height() + kGap);
   horizontalScrollBar()->setPageStep(room.width());
   horizontalScrollBar()->setRange(0, std::max(0, static_cast<int>(width) - room.width()));
   verticalScrollBar()->setPageStep(room.height());
@@ -93,13 +101,11 @@ void PageCanvas::Arrange() {
 
 QRectF PageCanvas::PlaceOf(int index) const {
   const QSizeF page = PageSize();
-  const double all = columns_ * (page.width() + kGap) - kGap;
-  const double left = std::max<double>(kGap, (viewport()->width() - all) / 2) - horizontalScrollBar()->value();
-  const int column = index % columns_;
-  const int row = index / columns_;
-  return {QPointF(left + column * (page.width() + kGap),
-                  kGap + row * (page.height() + kGap) - verticalScrollBar()->value()),
-          page};
+  const QSizeF step = page + QSizeF(kGap, kGap);
+  const QPointF corner(Margin(viewport()->width(), columns_ * step.width() - kGap),
+                       Margin(viewport()->height(), Rows() * step.height() - kGap));
+  const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  return {corner + QPointF(index % columns_ * step.width(), index / columns_ * step.height()) - scrolled, page};
 }
 
 /// The one the user is at as long as its row is the first in view, else the first of that row.

@@ -45,6 +45,7 @@ class PageCanvas : public QAbstractScrollArea {
  private:
   void Arrange();
   double ScaleFor(QSize room) const;
+  int Rows() const;
   int PageInView() const;
   void Turn(int page);
   /// Where a page stands in the viewport now.

@@ -271,10 +271,12 @@ void Receipts::btnNew_Click() {
   Trapped("Receipts.btnNew_Click -", [&] { rows_.GoToNewRow(); });
 }
 
+// A row must have been clicked; the one that the question names goes, also if the cursor came to it without a click.
 void Receipts::btnDelete_Click() {
   Trapped("Receipts.btnDelete_Click -", [&] {
-    if (SelPayNum == 0) return;
     const int row = PaymentList.Row();
+    if (SelPayNum == 0 || PaymentList.Cell(row, kAmount).empty()) return;
+    SelPayNum = ValLong(PaymentList.Cell(row, kTransNum));
     const std::string amount = convert.CurrencyText(convert.ToCurrency(PaymentList.Cell(row, kAmount)));
     if (!AskYesNo("Delete Payment by " + PaymentList.Cell(row, kClient) + " in the amount of " + amount + "?",
                   "Delete payment?")) {

@@ -161,6 +161,13 @@ TEST_F(PaymentsTest, APaymentIsDeletedAfterTheQuestion) {
   Press(Screen().btnDelete, "Delete Payment by Moss, Ada in the amount of $25.00?", Answer::Yes);
   EXPECT_EQ(database.Cell("SELECT group_concat(TransNum) FROM tb_Receive"), "1001");
   EXPECT_EQ(Row(2), "*||||||||");
+  Screen().btnDelete.Press();  // on the empty row
+
+  List().UserClick(1, Receipts::kType);
+  Screen().btnNew.Press();
+  TypeCells(List(), {"11/22/2026", "Ca", "", "", "9"});
+  Press(Screen().btnDelete, "Delete Payment by Moss, Ada in the amount of $9.00?", Answer::Yes);
+  EXPECT_EQ(database.Cell("SELECT group_concat(TransNum) FROM tb_Receive"), "1001") << "the row in question goes";
 
   Choose(Main().mnuDelete, "Deleting a client is not recommended", Answer::Yes);
   Screen().btnGo.Press();

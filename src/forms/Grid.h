@@ -168,6 +168,7 @@ class Grid : public Control {
   bool IsAt(int row, int col) const;
   bool CanEdit() const;
   bool AskBeforeEdit();
+  void ShowEdit();
   void ChooseItem(int index);
   void SearchItem(std::string_view letters);
   bool KeyInEdit(Key key, KeyModifiers modifiers);

@@ -70,7 +70,7 @@ bool Grid::BeginEdit(BeginBy by) {
     edit.text.clear();
   }
   model_->edit = std::move(edit);
-  if (view) view->EditChanged();
+  ShowEdit();
   return true;
 }
 
@@ -88,13 +88,19 @@ void Grid::SetEditText(const std::string& text) {
     return;
   }
   model_->edit->text = OneLine(text);
+  ShowEdit();
+}
+
+/// The user may have scrolled away from it.
+void Grid::ShowEdit() {
+  ScrollIntoView();
   if (view) view->EditChanged();
 }
 
 void Grid::ChooseItem(int index) {
   model_->edit->item = index;
   model_->edit->text = model_->Column(Col()).items[static_cast<std::size_t>(index)];
-  if (view) view->EditChanged();
+  ShowEdit();
 }
 
 /// Goes on with the letters typed before, or begins anew with these if no item follows both.

@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -31,9 +32,10 @@ bool ToGridKey(const QKeyEvent& event, GridKeyPress& press) {
   return true;
 }
 
-GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport)
+GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport, std::function<Qt::Alignment(int col)> alignment)
     : QObject(viewport),
       grid_(&grid),
+      alignment_(std::move(alignment)),
       viewport_(viewport),
       line_(new QLineEdit(viewport)),
       list_(new QComboBox(viewport)) {
@@ -42,6 +44,7 @@ GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport)
     field->installEventFilter(this);
   }
   list_->setFocusPolicy(Qt::StrongFocus);
+  list_->view()->installEventFilter(this);
   connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (grid_) grid_->SetEditText(FromQt(text));
   });
@@ -68,7 +71,11 @@ void GridCellEditor::Follow(const QRect& cell) {
   if (!begins) return;
   Field()->show();
   Field()->raise();
-  Field()->setFocus(Qt::OtherFocusReason);
+  TakeKeyboard();
+}
+
+void GridCellEditor::TakeKeyboard() {
+  if (grid_ && grid_->Editing() && Field()->isVisible()) Field()->setFocus(Qt::OtherFocusReason);
 }
 
 void GridCellEditor::Place(const QRect& cell) {
@@ -76,8 +83,7 @@ void GridCellEditor::Place(const QRect& cell) {
 }
 
 void GridCellEditor::ShowLine() {
-  const bool isMoney = grid_->Alignment(grid_->Col()) == ColumnAlignment::Right;
-  line_->setAlignment((isMoney ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  line_->setAlignment(alignment_(grid_->Col()));
   if (line_->text() == ToQt(grid_->EditText()) && line_->isVisible()) return;
   line_->setText(ToQt(grid_->EditText()));
   if (!line_->isVisible()) line_->selectAll();
@@ -99,16 +105,41 @@ void GridCellEditor::OpenList() {
 }
 
 void GridCellEditor::Hide() {
-  // The keyboard goes back to the grid before its field goes, or the toolkit would pass it on to another control.
-  if (line_->hasFocus() || list_->hasFocus()) viewport_->parentWidget()->setFocus(Qt::OtherFocusReason);
+  // The keyboard goes back to the grid before its field goes, or the toolkit would pass it on to another control, also
+  // in a window that is not in front.
+  const QWidget* focused = viewport_->window()->focusWidget();
+  if (focused == line_ || focused == list_) viewport_->parentWidget()->setFocus(Qt::OtherFocusReason);
   if (list_->isVisible()) list_->hidePopup();
   line_->hide();
   list_->hide();
 }
 
 bool GridCellEditor::eventFilter(QObject* watched, QEvent* event) {
+  if (grid_ && watched == list_ && event->type() == QEvent::Wheel) {
+    event->ignore();  // it scrolls the grid
+    return true;
+  }
   if (!grid_ || event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
-  return KeyPressed(static_cast<QKeyEvent&>(*event));
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  return watched == list_->view() ? KeyPressedInList(key) : KeyPressed(key);
+}
+
+// In the open list Tab picks the item and moves on, and Escape drops the edit together with the list.
+bool GridCellEditor::KeyPressedInList(const QKeyEvent& event) {
+  GridKeyPress press{};
+  if (!ToGridKey(event, press) || (press.key != Key::Tab && press.key != Key::Escape)) return false;
+  const int item = list_->view()->currentIndex().row();
+  list_->hidePopup();
+  if (press.key == Key::Tab && item >= 0) grid_->PickItem(item);
+  if (grid_) UseKey(press);
+  return true;
+}
+
+bool GridCellEditor::UseKey(const GridKeyPress& press) {
+  Form& form = grid_->Parent();
+  const bool used = grid_->UserKey(press.key, press.modifiers);
+  if (!used && grid_ && press.key == Key::Tab) form.UserTab(press.modifiers.shift);
+  return used || press.key == Key::Tab;
 }
 
 bool GridCellEditor::KeyPressed(const QKeyEvent& event) {
@@ -120,10 +151,7 @@ bool GridCellEditor::KeyPressed(const QKeyEvent& event) {
       OpenList();
       return true;
     }
-    if (grid_->UserKey(press.key, press.modifiers)) return true;
-    if (press.key != Key::Tab) return isList;
-    grid_->Parent().UserTab(press.modifiers.shift);
-    return true;
+    return UseKey(press) || isList;
   }
   const bool isText = !event.text().isEmpty() && event.text().at(0).isPrint() &&
                       !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));

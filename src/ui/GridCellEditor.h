@@ -13,16 +13,26 @@ class QLineEdit;
 
 namespace norvane::ui {
 
+struct GridKeyPress {
+  Key key;
+  KeyModifiers modifiers;
+};
+/// The grid's name of a key, nothing for a key that it has no name for.
+bool ToGridKey(const QKeyEvent& event, GridKeyPress& press);
+
 /// The field over the current cell while the grid is being edited: a line, or a list where the column has one. What is
 /// typed goes to the grid; when the edit ends is the grid's decision.
 class GridCellEditor : public QObject {
  public:
-  GridCellEditor(Grid& grid, QWidget* viewport);
+  /// `alignment` tells how a column's cells stand, so that a text doesn't jump when its edit begins.
+  GridCellEditor(Grid& grid, QWidget* viewport, std::function<Qt::Alignment(int col)> alignment);
   void Abandon();
 
   /// Makes the field show the edit under way, or go away if there is none.
   void Follow(const QRect& cell);
   void Place(const QRect& cell);
+  /// Gives the keyboard to the field that stands.
+  void TakeKeyboard();
   /// Opens the list of a drop-down that is being edited.
   void OpenList();
 
@@ -34,18 +44,14 @@ class GridCellEditor : public QObject {
   void ShowList();
   void Hide();
   bool KeyPressed(const QKeyEvent& event);
+  bool KeyPressedInList(const QKeyEvent& event);
+  bool UseKey(const GridKeyPress& press);
 
   Grid* grid_;
+  std::function<Qt::Alignment(int col)> alignment_;
   QWidget* viewport_;
   QLineEdit* line_;
   QComboBox* list_;
 };
-
-struct GridKeyPress {
-  Key key;
-  KeyModifiers modifiers;
-};
-/// The grid's name of a key, nothing for a key that it has no name for.
-bool ToGridKey(const QKeyEvent& event, GridKeyPress& press);
 
 }  // namespace norvane::ui

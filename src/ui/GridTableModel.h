@@ -23,6 +23,7 @@ class GridTableModel : public QAbstractTableModel {
   void RefreshRow(int row);
   /// Which columns hold nothing but figures: those without an alignment of their own stand to the right.
   void SetFigures(std::vector<bool> figures) { figures_ = std::move(figures); }
+  Qt::Alignment AlignmentOf(int col) const;
   bool IsRightAligned(int col) const { return AlignmentOf(col).testFlag(Qt::AlignRight); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -31,8 +32,6 @@ class GridTableModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
-  Qt::Alignment AlignmentOf(int col) const;
-
   Grid* grid_;
   std::vector<bool> figures_;
   int rows_ = 0;

@@ -31,6 +31,20 @@ constexpr int kWidestText = 260;  // no column asks for more, in pixels
 /// Columns were measured for a smaller font; they grow by up to this where there is room.
 constexpr double kColumnGrowth = 1.3;
 
+/// What the cells of a column will hold, as long as they are empty.
+QString SampleOf(ColumnType type) {
+  switch (type) {
+    case ColumnType::Currency:
+      return "$0,000.00";
+    case ColumnType::Date:
+      return "00/00/0000";
+    case ColumnType::Plain:
+    case ColumnType::Boolean:
+      break;
+  }
+  return {};
+}
+
 }  // namespace
 
 GridView::GridView(Grid& grid, QWidget* parent)
@@ -39,7 +53,7 @@ GridView::GridView(Grid& grid, QWidget* parent)
   setModel(table_);
   setItemDelegate(painter_);
   SetLook();
-  editor_ = new GridCellEditor(grid, viewport());
+  editor_ = new GridCellEditor(grid, viewport(), [this](int col) { return table_->AlignmentOf(col); });
   grid.view = this;
   binding_ = new Binding(grid, *this, nullptr);
   connect(binding_, &QObject::destroyed, this, &GridView::Abandon);
@@ -150,9 +164,19 @@ void GridView::CursorMoved() {
   const QModelIndex cell = table_->index(grid_->Row() - 1, grid_->Col());
   if (!cell.isValid()) return;
   selectionModel()->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
-  const int left = columnViewportPosition(grid_->Col());
-  if (left < 0 || left + columnWidth(grid_->Col()) > viewport()->width()) {
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + left);
+  ShowCurrentColumn();
+}
+
+/// Scrolls no further than it must, but all the way back where that shows the column too: the markers stand there.
+void GridView::ShowCurrentColumn() {
+  const int start = horizontalHeader()->sectionPosition(grid_->Col());
+  const int end = start + columnWidth(grid_->Col());
+  const int room = viewport()->width();
+  QScrollBar& bar = *horizontalScrollBar();
+  if (start < bar.value()) {
+    bar.setValue(end <= room ? 0 : start);
+  } else if (end > bar.value() + room) {
+    bar.setValue(std::min(start, end - room));
   }
 }
 
@@ -162,6 +186,7 @@ void GridView::TopRowChanged() {
 
 void GridView::EditChanged() {
   if (waiting_) CatchUp();
+  if (grid_->Editing()) ShowCurrentColumn();
   editor_->Follow(CurrentCell());
   viewport()->update();
 }
@@ -188,8 +213,9 @@ void GridView::MeasureColumns() {
     const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
     const int text = content.width + 2 * GridCellPainter::kPadding + 1;
-    needs_[at] = {.whole = std::min(text + helper, kWidestText), .least = content.isExact ? text : kNarrowest};
-    figures[at] = content.isFigures;
+    needs_[at] = {.whole = std::min(text + helper, kWidestText), .least = content.isExact ? text + helper : kNarrowest};
+    // What the user enters stays on the left, but for amounts: a check number may be a word as well.
+    figures[at] = content.isFigures && (content.isExact || grid_->Kind() == GridKind::List);
   }
   table_->SetFigures(std::move(figures));
 }
@@ -197,7 +223,8 @@ void GridView::MeasureColumns() {
 GridView::ColumnContent GridView::LookAt(int col) const {
   static const QRegularExpression figure(R"(^[-(]?[^\w\s/-]?\d[\d.,]*[^\w\s/-]?[-)]?$)");
   static const QRegularExpression exact(R"(^[-(]?[^\w\s/-]?\d[\d.,/-]*[.,/-]\d+[^\w\s/-]?[-)]?$)");
-  ColumnContent content;
+  const QString sample = SampleOf(grid_->ColDataType(col));
+  ColumnContent content{.width = fontMetrics().horizontalAdvance(sample), .isExact = !sample.isEmpty()};
   int filled = 0;
   const int rows = std::min(grid_->Rows(), kRowsMeasured);
   for (int row = 0; row < rows; ++row) {
@@ -290,6 +317,8 @@ void GridView::scrollContentsBy(int dx, int dy) {
 
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
+  // A press on a heading, or with another button of the mouse, ends no edit.
+  if (grid_) editor_->TakeKeyboard();
   viewport()->update();
 }
 
@@ -359,11 +388,20 @@ void GridView::inputMethodEvent(QInputMethodEvent* event) {
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (!grid_ || event->button() != Qt::LeftButton) return;
   const QModelIndex cell = indexAt(event->pos());
-  if (!cell.isValid()) return grid_->SetFocus();
+  if (!cell.isValid()) return ClickBesideRows();
   const int row = cell.row() + 1;
-  const bool onHelper =
-      painter_->ShowsHelper(row, cell.column()) && GridCellPainter::HelperRect(visualRect(cell)).contains(event->pos());
-  onHelper ? ClickOnHelper(row, cell.column()) : grid_->UserClick(row, cell.column());
+  IsOnHelper(event->pos()) ? ClickOnHelper(row, cell.column()) : grid_->UserClick(row, cell.column());
+}
+
+void GridView::ClickBesideRows() {
+  grid_->SetFocus();
+  if (grid_) grid_->CommitEdit();
+}
+
+bool GridView::IsOnHelper(const QPoint& at) const {
+  const QModelIndex cell = indexAt(at);
+  return painter_->ShowsHelper(cell.row() + 1, cell.column()) &&
+         GridCellPainter::HelperRect(visualRect(cell)).contains(at);
 }
 
 void GridView::ClickOnHelper(int row, int col) {
@@ -378,6 +416,8 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!grid_ || event->button() != Qt::LeftButton) return;
   const QModelIndex cell = indexAt(event->pos());
   if (!cell.isValid()) return;
+  // The first click may have brought the helper there.
+  if (IsOnHelper(event->pos())) return ClickOnHelper(cell.row() + 1, cell.column());
   grid_->UserDoubleClick(cell.row() + 1, cell.column());
   editor_->OpenList();
 }

@@ -69,10 +69,13 @@ class GridView : public QTableView, private GridObserver {
   void ArrangeColumns();
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);
   void FollowTopRow();
+  void ShowCurrentColumn();
   void TellVisibleRows();
   QRect CurrentCell() const;
   void SectionResized(int section, int width);
+  bool IsOnHelper(const QPoint& at) const;
   void ClickOnHelper(int row, int col);
+  void ClickBesideRows();
 
   Grid* grid_;
   GridTableModel* table_;

@@ -124,6 +124,9 @@ TEST_F(GridTest, ScrollsTheCursorIntoViewAndClampsTheTop) {
   EXPECT_EQ(g.TopRow(), 3);
   g.SetTopRow(99);
   EXPECT_EQ(g.TopRow(), 16) << "the last page is full";
+  g.UserText("x");
+  EXPECT_EQ(g.TopRow(), 3) << "what is typed shows";
+  g.CancelEdit();
   g.SetTopRow(-5);
   EXPECT_EQ(g.TopRow(), 1);
   g.SetTopRow(15);

@@ -115,6 +115,16 @@ TEST_F(FocusOfWindows, AnotherWindowTakesTheFocusAndGivesItBack) {
   program.screens.Unload(CalendarForm::kName);
   EXPECT_EQ(Log(), "+txtFirst");
   EXPECT_TRUE(Of(Demo().txtFirst).hasFocus());
+
+  Demo().Rows.SetFocus();
+  Type("ab");
+  program.screens.Show(CalendarForm::kName);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(desktop.WindowOf(program.screens.Touch<CalendarForm>())));
+  EXPECT_EQ(Demo().Rows.Cell(1, 1), "ab");
+  program.screens.Unload(CalendarForm::kName);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  Settle();
+  EXPECT_TRUE(Of(Demo().Rows).hasFocus());
 }
 
 }  // namespace

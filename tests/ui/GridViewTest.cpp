@@ -93,6 +93,26 @@ TEST_F(GridInWindow, ADropDownShowsTextsAndKeepsKeys) {
   EXPECT_EQ(Rows().Cell(1, 2), "3");
   Key(Qt::Key_F4);
   EXPECT_TRUE(list->view()->isVisible());
+  QTest::keyClick(list->view(), Qt::Key_Up);
+  QTest::keyClick(list->view(), Qt::Key_Tab);
+  EXPECT_EQ(Rows().Cell(1, 2), "2");
+  EXPECT_EQ(Rows().Col(), 3) << "Tab picks and moves on";
+  Rows().SetCol(2);
+  Key(Qt::Key_F4);
+  QTest::keyClick(list->view(), Qt::Key_Escape);
+  EXPECT_FALSE(list->view()->isVisible() || Rows().Editing());
+}
+
+TEST_F(GridInWindow, AnEditKeepsTheKeyboardUntilAClickBesideTheRows) {
+  ClickCell(1, 1);
+  Type("ab");
+  QTest::mouseClick(Table().viewport(), Qt::RightButton, {}, Cell(2, 6).center());
+  Settle();
+  EXPECT_TRUE(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+  Log();
+  QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, Cell(3, 6).center() + QPoint(0, 60));
+  EXPECT_EQ(Log(), "AfterEdit=ab");
+  EXPECT_TRUE(Table().hasFocus());
 }
 
 TEST_F(GridInWindow, ACheckBoxTurnsByClickAndSpace) {

@@ -138,6 +138,8 @@ class Grid : public Control {
   void UserDoubleClick(int row, int col);
   /// A key that is no character. False if the grid has no use for it (Tab after the last cell), so that the form may.
   bool UserKey(Key key, KeyModifiers modifiers = {});
+  /// The user has searched for the row: the cursor goes there as by an arrow key.
+  void UserFind(int row);
   /// A character typed, in UTF-8: begins or continues an edit.
   void UserText(std::string_view text);
 

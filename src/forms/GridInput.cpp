@@ -109,6 +109,12 @@ bool Grid::KeyOutsideEdit(Key key, KeyModifiers modifiers) {
   return MoveBy(key, modifiers);
 }
 
+void Grid::UserFind(int row) {
+  if (!Enabled() || row < 1) return;
+  const Dispatch dispatch(Parent());
+  MoveByKey(row, Col());
+}
+
 /// The drop-down's or the button's key.
 void Grid::OpenHelper() {
   if (model_->Column(Col()).helper == CellHelper::Button) return PressCellButton();

@@ -372,12 +372,36 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     const bool opens = press.key == Key::F4 || (press.key == Key::Down && press.modifiers.alt);
     if (used && opens) editor_->OpenList();
     event->setAccepted(used);
+    if (press.key == Key::Space) Search(event->text());
     return;
   }
   const bool isText = !event->text().isEmpty() && event->text().at(0).isPrint() &&
                       !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
   event->setAccepted(isText);
-  if (isText) grid_->UserText(FromQt(event->text()));
+  if (!isText) return;
+  grid_->UserText(FromQt(event->text()));
+  Search(event->text());
+}
+
+/// Letters typed in a list lead to the next row whose first column begins with them.
+void GridView::Search(const QString& letters) {
+  if (!grid_ || grid_->Kind() != GridKind::List) return;
+  if (waiting_) CatchUp();
+  const int first = FirstShownColumn();
+  if (first < 0) return;
+  {
+    const QScopedValueRollback following(following_, true);
+    selectionModel()->setCurrentIndex(table_->index(grid_->Row() - 1, first), QItemSelectionModel::NoUpdate);
+    keyboardSearch(letters);
+  }
+  const int found = currentIndex().row() + 1;
+  if (found != grid_->Row()) grid_->UserFind(found);
+}
+
+int GridView::FirstShownColumn() const {
+  int col = 0;
+  while (col < grid_->Cols() && grid_->ColWidth(col) == 0) ++col;
+  return col < grid_->Cols() ? col : -1;
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {

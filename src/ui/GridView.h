@@ -65,6 +65,8 @@ class GridView : public QTableView, private GridObserver {
   };
   ColumnContent LookAt(int col) const;
   int ColumnForRest() const;
+  void Search(const QString& letters);
+  int FirstShownColumn() const;
   void MeasureColumns();
   void ArrangeColumns();
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);

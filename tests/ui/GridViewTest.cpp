@@ -164,5 +164,38 @@ TEST_F(GridInWindow, ColumnsTakeWidthHeadingAndAlignmentFromTheModel) {
   EXPECT_EQ(last, Table().viewport()->width()) << "the last column shown takes the rest";
 }
 
+class NamesForm : public Form {
+ public:
+  static constexpr const char* kName = "NamesForm";
+  explicit NamesForm(Program& owner) : Form(owner, kName, {.caption = "Names"}) {
+    SetLayout(layout::Stretch(Names));
+    Names.SetFormatString("|Name|Phone");
+    const Twips widths[] = {0, 2000, 1200};
+    for (int col = 0; col < 3; ++col) Names.SetColWidth(col, widths[col]);
+    for (const auto* name : {"Adams", "Mills", "Moss", "Moore", "van Acker", "van Dam"}) {
+      Names.AddItem("7\t" + std::string(name) + "\t555");
+    }
+    Names.Click = [this] { clicked.push_back(Names.Cell(Names.Row(), 1)); };
+  }
+  Grid Names{*this, "Names", GridKind::List};
+  std::vector<std::string> clicked;
+};
+
+TEST_F(GridInWindow, LettersLookForARowOfAList) {
+  program.screens.Add<NamesForm>();
+  program.screens.Show(NamesForm::kName);
+  auto& form = program.screens.Touch<NamesForm>();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(desktop.WindowOf(form)));
+  form.Names.SetCol(2);
+  Type("mo");
+  const int together = QApplication::keyboardInputInterval();
+  QApplication::setKeyboardInputInterval(-1);  // each letter looks anew
+  Type("mv");
+  QApplication::setKeyboardInputInterval(together);
+  Type("an d");
+  EXPECT_THAT(form.clicked, testing::ElementsAre("Mills", "Moss", "Moore", "van Acker", "van Dam"));
+  EXPECT_EQ(form.Names.Col(), 2);
+}
+
 }  // namespace
 }  // namespace norvane::ui

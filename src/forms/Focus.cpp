@@ -55,6 +55,12 @@ void Focus::MoveTo(Control& control) {
 
 void Focus::Enter(Form& form) {
   if (!form.CanBeInFront()) return;
+  const auto isItsOwn = [&](const Form* other) { return other->Owner() == &form; };
+  const auto owned = std::find_if(order_.begin(), order_.end(), isItsOwn);
+  if (owned != order_.end()) {
+    order_.insert(owned, &form);
+    return;
+  }
   const auto behind = form.IsModal() ? order_.end() : std::find(order_.begin(), order_.end(), Modal());
   order_.insert(behind, &form);
   Activate(form);

@@ -20,7 +20,8 @@ class Focus {
   /// LostFocus of the control that had it, then GotFocus of `control`; its form comes to the front. Nothing happens if
   /// the form waits for a modal one.
   void MoveTo(Control& control);
-  /// A form has become visible: it comes to the front, or right behind the modal form it has to wait for.
+  /// A form has become visible: it comes to the front, or right behind the modal form it has to wait for or
+  /// the form of its own that stands already.
   void Enter(Form& form);
   /// A form has come to the front outside: LostFocus there, GotFocus here.
   void Activate(Form& form);

@@ -44,6 +44,7 @@ TEST_F(CustomerTest, AsksForAClientWhenThereIsNone) {
   ASSERT_TRUE(IsOpen("Profile"));
   EXPECT_EQ(The<Profile>().lblCustNum.Caption(), "1001");
   EXPECT_EQ(The<Profile>().Owner(), &Main());
+  EXPECT_EQ(program.focus.ActiveForm(), &The<Profile>()) << "the main screen comes up behind it";
   EXPECT_EQ(Main().CustList2.Rows(), 1);
   EXPECT_EQ(Panel(2), "0 Clients");
 

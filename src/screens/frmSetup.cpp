@@ -11,10 +11,9 @@ frmSetup::frmSetup(Program& host) : Form(host, kName, {.caption = "Setup", .resi
   SetLayout(Column(
       {Group(Frame1,
              Fields({Field("Name:", txtCoName), Field("Address:", txtCoAddress1), Field("Address2:", txtCoAddress2),
-                     Field("City:",
-                           Row({Stretch(txtCoCity), Field("State:", txtCoState), Field("Zip Code:", TxtCoZipCode)})),
-                     Field("Phone:", Row({Stretch(txtCoPhone), Field("Fax:", Stretch(txtCoFax))})),
-                     Field("Website:", txtCoWebSite), Field("State Tax Rate %:", Row({txtCoStateTaxRate, Space()}))})),
+                     Field("City:", Row({txtCoCity, Field("State:", txtCoState), Field("Zip Code:", TxtCoZipCode)})),
+                     Field("Phone:", Row({txtCoPhone, Field("Fax:", txtCoFax)})), Field("Website:", txtCoWebSite),
+                     Field("State Tax Rate %:", Row({txtCoStateTaxRate, Space()}))})),
        Strip({btnPayments, btnShipping, Space(), btnExit})}));
   SetExitButton(btnExit);
   for (TextBox* box : {&txtCoName, &txtCoAddress1, &txtCoAddress2, &txtCoCity, &txtCoState, &TxtCoZipCode, &txtCoPhone,

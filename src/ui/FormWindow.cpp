@@ -41,8 +41,7 @@ void FormWindow::ChooseFlags() {
   if (style.bare) {
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
   } else if (style.goesWithOwner || form_->IsModal() || !style.resizable) {
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                   Qt::WindowCloseButtonHint);
+    setWindowFlags(kDialogFrame);
   }
 }
 
@@ -221,7 +220,7 @@ bool FormWindow::PressButton(bool ButtonStyle::*role) {
 void FormWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
   Telling([&] {
-    if (!placed_ || isMinimized() || isMaximized() || !isVisible()) return;
+    if (!placed_ || isMinimized() || !isVisible()) return;
     if (pos() == QPoint(ToPixels(form_->Left()), ToPixels(form_->Top()))) return;
     form_->UserMove(ToTwips(pos().x()), ToTwips(pos().y()));
   });

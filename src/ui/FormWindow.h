@@ -10,6 +10,10 @@ class QMenu;
 
 namespace norvane::ui {
 
+/// What stands before the others has a title and can be closed; it is neither enlarged nor put away.
+constexpr Qt::WindowFlags kDialogFrame =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
 /// The window of a form. It draws the form's description and forwards what the user does; the form is the truth.
 class FormWindow : public QMainWindow {
  public:

@@ -16,6 +16,7 @@
 
 #include "core/RuntimeError.h"
 #include "forms/Form.h"
+#include "ui/AltKeys.h"
 #include "ui/Convert.h"
 #include "ui/FormWindow.h"
 #include "ui/HelpViewer.h"
@@ -25,6 +26,7 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kAppearMilliseconds = 250;
+constexpr int kSearchMilliseconds = 1000;  // letters that follow one another sooner are one word to look for
 
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   switch (buttons) {
@@ -92,7 +94,9 @@ std::filesystem::path HelpPages(const std::filesystem::path& folder) {
 
 QtDesktop::QtDesktop(const RegionalSettings& settings, Theme theme) {
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setKeyboardInputInterval(kSearchMilliseconds);
   ApplyTheme(*qApp, theme);
+  KeepAltFromTyping(*qApp);
   RegisterStandardWidgets(widgets_, settings);
   RegisterPreview(widgets_);
 }
@@ -119,6 +123,7 @@ Date QtDesktop::Now() const {
 Answer QtDesktop::Ask(const Message& message) {
   const QPointer<QWidget> asker = QApplication::activeWindow();
   QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text), ButtonsOf(message.buttons), asker);
+  box.setWindowFlags(kDialogFrame);
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(ButtonOf(message.preselected));
   box.setWindowModality(Qt::ApplicationModal);
@@ -134,8 +139,19 @@ void QtDesktop::FormShown(Form& form) {
   FormWindow*& window = windows_[&form];
   const bool isNew = !window;
   if (isNew) window = new FormWindow(form, widgets_, focus_);
-  window->Present(form.Owner() ? WindowOf(*form.Owner()) : nullptr);
+  FormWindow* owner = form.Owner() ? WindowOf(*form.Owner()) : nullptr;
+  // A window that its owner shows while it loads itself comes up with the owner, as there is nothing yet to stand
+  // above.
+  if (form.Owner() && !owner && !form.Style().goesWithOwner) return;
+  window->Present(owner);
   if (isNew && form.Style().goesWithOwner) LetAppear(*window);
+  if (isNew) PresentOwned(*window);
+}
+
+void QtDesktop::PresentOwned(FormWindow& owner) {
+  for (const auto& [form, window] : windows_) {
+    if (form->Owner() == owner.Model() && form->IsVisible() && !window->isVisible()) window->Present(&owner);
+  }
 }
 
 /// A notice is there to be seen during the work that follows, which leaves the event loop no time. Timers wait.

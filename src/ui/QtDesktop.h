@@ -52,6 +52,7 @@ class QtDesktop : public Desktop {
 
  private:
   void LetAppear(QWidget& window);
+  void PresentOwned(FormWindow& owner);
   void RunLoop(QEventLoop& loop);
 
   WidgetFactory widgets_;

@@ -51,6 +51,16 @@ class Sieve : public QObject {
   std::function<bool(QEvent&)> see_;
 };
 
+/// An accelerator presses its button at once: the toolkit would show it going down first, and what is typed meanwhile
+/// would go astray.
+void PressAtOnce(QPushButton& button) {
+  new Sieve(button, [&button](QEvent& event) {
+    if (event.type() != QEvent::Shortcut || static_cast<QShortcutEvent&>(event).isAmbiguous()) return false;
+    button.click();
+    return true;
+  });
+}
+
 /// A wheel turned over a field that has no focus scrolls what is around it and changes no value.
 void IgnoreStrayWheel(QWidget& widget) {
   new Sieve(widget, [&widget](QEvent& event) {
@@ -160,6 +170,7 @@ Binding* MakeButton(Button& button, QWidget* parent) {
     if (!button.Caption().empty()) widget->setMinimumWidth(std::max(kButtonWidth, widget->sizeHint().width()));
   });
   QObject::connect(widget, &QPushButton::clicked, binding, [&button] { button.Press(); });
+  PressAtOnce(*widget);
   return binding;
 }
 

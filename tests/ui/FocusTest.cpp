@@ -28,7 +28,6 @@ TEST_F(FocusOfWindows, AClickOnAButtonCommitsTheEditBeforeTheClick) {
 TEST_F(FocusOfWindows, AnAcceleratorCommitsTheEditToo) {
   EditACell();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
-  QTest::qWait(150);
   EXPECT_EQ(Log(), "AfterEdit=X LeaveCell -Rows +btnOk btnOk_Click");
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/Characters.h"
+#include "core/Trap.h"
 #include "core/store/Sqlite.h"
 
 namespace norvane {
@@ -24,10 +25,21 @@ FieldType DeclaredType(std::string_view declaration) {
   return FieldType::Text;
 }
 
-constexpr const char* kColumns =
-    "select tables.name, tables.type = 'view', columns.name, columns.type, columns.pk "
-    "from sqlite_schema as tables join pragma_table_info(tables.name) as columns "
-    "where tables.type in ('table', 'view') order by tables.rowid, columns.cid";
+/// Adds one column to the schema, as a row of pragma_table_info tells.
+void AddColumn(TableSchema& schema, sqlite3_stmt* row) {
+  schema.columns.push_back({std::string(ColumnText(row, 0)), DeclaredType(ColumnText(row, 1))});
+  const auto placeInKey = static_cast<std::size_t>(sqlite3_column_int(row, 2));
+  if (placeInKey > schema.key.size()) schema.key.resize(placeInKey);
+  if (placeInKey > 0) schema.key[placeInKey - 1] = schema.columns.size() - 1;
+}
+
+TableSchema ReadTable(sqlite3* database, const std::string& file, const std::string& name, bool isQuery) {
+  TableSchema schema{name, {}, {}, isQuery};
+  const StatementHandle rows = Prepare(database, "select name, type, pk from pragma_table_info(?) order by cid", file);
+  sqlite3_bind_text(rows.get(), 1, name.data(), static_cast<int>(name.size()), SQLITE_STATIC);
+  while (Step(rows.get(), file)) AddColumn(schema, rows.get());
+  return schema;
+}
 
 }  // namespace
 
@@ -40,17 +52,14 @@ int TableSchema::Find(std::string_view column) const {
 
 Catalog Catalog::Read(sqlite3* database, const std::string& file) {
   Catalog catalog;
-  const StatementHandle rows = Prepare(database, kColumns, file);
+  const StatementHandle rows = Prepare(
+      database, "select name, type = 'view' from sqlite_schema where type in ('table', 'view') order by rowid", file);
   while (Step(rows.get(), file)) {
-    const std::string_view table = ColumnText(rows.get(), 0);
-    if (catalog.tables_.empty() || catalog.tables_.back().name != table) {
-      catalog.tables_.push_back({std::string(table), {}, {}, sqlite3_column_int(rows.get(), 1) != 0});
-    }
-    TableSchema& schema = catalog.tables_.back();
-    schema.columns.push_back({std::string(ColumnText(rows.get(), 2)), DeclaredType(ColumnText(rows.get(), 3))});
-    const auto placeInKey = static_cast<std::size_t>(sqlite3_column_int(rows.get(), 4));
-    if (placeInKey > schema.key.size()) schema.key.resize(placeInKey);
-    if (placeInKey > 0) schema.key[placeInKey - 1] = schema.columns.size() - 1;
+    const std::string name(ColumnText(rows.get(), 0));
+    const bool isQuery = sqlite3_column_int(rows.get(), 1) != 0;
+    const auto add = [&] { catalog.tables_.push_back(ReadTable(database, file, name, isQuery)); };
+    // A saved query whose table is gone takes nothing else with it.
+    isQuery ? IgnoringErrors(add) : add();
   }
   return catalog;
 }

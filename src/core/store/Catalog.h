@@ -32,7 +32,7 @@ struct TableSchema {
 /// What tables the file holds, with the type that each column was declared with.
 class Catalog {
  public:
-  /// Raises what the file raises when it is read.
+  /// Leaves out a saved query whose tables are not there. Raises what the file raises when it is read.
   static Catalog Read(sqlite3* database, const std::string& file);
   /// Nothing if there is no such table; in any case of letters.
   const TableSchema* Find(std::string_view table) const;

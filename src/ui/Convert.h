@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -14,8 +15,10 @@ namespace norvane::ui {
 
 inline constexpr double kTwipsPerPixel = 15;
 
+/// Lengths come from a settings file, which may hold anything: one that no window system can draw is cut.
 inline int ToPixels(Twips twips) {
-  return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+  constexpr double kMost = 16383;
+  return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kMost, kMost)));
 }
 inline Twips ToTwips(int pixels) {
   return pixels * kTwipsPerPixel;

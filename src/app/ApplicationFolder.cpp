@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QString>
 
+#include "core/SettingsFile.h"
+
 namespace norvane {
 namespace {
 
@@ -28,24 +30,40 @@ fs::path DeliveredDatabase() {
   return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, kDatabase));
 }
 
+/// The folder appears whole or not at all, so what goes wrong at the first start is put right by the next one. What is
+/// missing is reported when the database is opened.
 void MakeOwnFolder(const fs::path& folder) {
   const fs::path delivered = DeliveredDatabase();
-  std::error_code failed;  // a database that is missing is reported when it is opened
-  fs::create_directories(folder, failed);
-  fs::permissions(folder, fs::perms::owner_all, failed);
   if (delivered.empty()) return;
-  fs::copy_file(delivered, folder / kDatabase, failed);
-  fs::permissions(folder / kDatabase, fs::perms::owner_read | fs::perms::owner_write, failed);
-  fs::create_directory_symlink(delivered.parent_path() / kHelp, folder / kHelp, failed);
+  fs::path unfinished = folder;
+  unfinished += ".new";
+  std::error_code failed;
+  fs::create_directories(folder.parent_path(), failed);
+  fs::remove_all(unfinished, failed);
+  fs::create_directory(unfinished, failed);
+  fs::permissions(unfinished, fs::perms::owner_all, failed);
+  fs::create_directory_symlink(delivered.parent_path() / kHelp, unfinished / kHelp, failed);
+  if (fs::copy_file(delivered, unfinished / kDatabase, failed)) {
+    fs::permissions(unfinished / kDatabase, fs::perms::owner_read | fs::perms::owner_write, failed);
+    fs::rename(unfinished, folder, failed);
+  } else {
+    fs::remove_all(unfinished, failed);
+  }
+}
+
+bool HasBeenWorkedIn(const fs::path& folder) {
+  std::error_code failed;
+  return fs::exists(folder / kDatabase, failed) || fs::exists(folder / kSettingsFile, failed);
 }
 
 }  // namespace
 
 fs::path ApplicationFolder(const char* executable) {
   const fs::path beside = FolderOf(executable);
-  if (fs::exists(beside / kDatabase)) return beside;
+  if (HasBeenWorkedIn(beside)) return beside;
   const fs::path own = ToPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-  if (!fs::exists(own)) MakeOwnFolder(own);
+  std::error_code failed;
+  if (!fs::exists(own, failed)) MakeOwnFolder(own);
   return own;
 }
 

@@ -6,10 +6,11 @@ namespace norvane {
 
 /// The folder that holds the database and the settings, as `executable` (the name the program was started by) tells.
 ///
-/// It is the executable's folder if the database is there. Links are not followed: a link to the program beside a
-/// database is a program of its own. Otherwise it is a folder of the user's own, which is made at the first start,
-/// readable by nobody else, with a copy of the delivered database and a link to the help pages. Once that folder exists
-/// nothing is ever put into it.
+/// It is the executable's folder if the database or the settings are there: a folder that the program has worked in
+/// stays its folder when the database is taken away, so that no other business comes up in its place. Links are not
+/// followed: a link to the program beside a database is a program of its own. Otherwise it is a folder of the user's
+/// own, which is made at the first start, whole or not at all, readable by nobody else, with a copy of the delivered
+/// database and a link to the help pages. Once that folder exists nothing is ever put into it.
 std::filesystem::path ApplicationFolder(const char* executable);
 
 }  // namespace norvane

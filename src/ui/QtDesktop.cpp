@@ -85,7 +85,8 @@ std::filesystem::path ToPath(const QString& path) {
 
 /// The folder asked for, or the one of its name that was installed: a folder of the user's own holds data alone.
 std::filesystem::path HelpPages(const std::filesystem::path& folder) {
-  if (std::filesystem::exists(folder)) return folder;
+  std::error_code failed;
+  if (std::filesystem::exists(folder / HelpViewer::kFirstPage, failed)) return folder;
   const QString name = QString::fromStdU16String(folder.filename().u16string());
   return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, name, QStandardPaths::LocateDirectory));
 }
@@ -246,7 +247,8 @@ void QtDesktop::SetMousePointer(MousePointer pointer) {
 
 void QtDesktop::ShowHelp(const std::filesystem::path& folder) {
   const auto pages = HelpPages(folder);
-  if (!std::filesystem::exists(pages / HelpViewer::kFirstPage)) Raise(ErrorNumber::FileNotFound);
+  std::error_code failed;
+  if (!std::filesystem::exists(pages / HelpViewer::kFirstPage, failed)) Raise(ErrorNumber::FileNotFound);
   if (!help_) help_ = new HelpViewer(pages);
   help_->showMaximized();
   help_->raise();
@@ -258,7 +260,8 @@ std::filesystem::path QtDesktop::DocumentsFolder() const {
 }
 
 std::filesystem::path QtDesktop::CurrentFolder() const {
-  return std::filesystem::current_path();
+  std::error_code removed;
+  return std::filesystem::current_path(removed);
 }
 
 std::vector<std::filesystem::path> QtDesktop::Drives() const {

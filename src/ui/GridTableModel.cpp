@@ -3,6 +3,18 @@
 #include "ui/Convert.h"
 
 namespace norvane::ui {
+namespace {
+
+/// What a text is looked for by: without regard to case and accents.
+QString Folded(const QString& text) {
+  QString folded;
+  for (const QChar c : text.normalized(QString::NormalizationForm_D)) {
+    if (c.category() != QChar::Mark_NonSpacing) folded += c.toCaseFolded();
+  }
+  return folded;
+}
+
+}  // namespace
 
 void GridTableModel::Abandon() {
   beginResetModel();
@@ -47,6 +59,17 @@ int GridTableModel::rowCount(const QModelIndex& parent) const {
 
 int GridTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : columns_;
+}
+
+/// The next row, round the end, whose text begins with what is looked for.
+QModelIndexList GridTableModel::match(const QModelIndex& start, int role, const QVariant& value, int,
+                                      Qt::MatchFlags) const {
+  const QString wanted = Folded(value.toString());
+  for (int step = 0; step < rows_; ++step) {
+    const QModelIndex cell = index((start.row() + step) % rows_, start.column());
+    if (Folded(data(cell, role).toString()).startsWith(wanted)) return {cell};
+  }
+  return {};
 }
 
 QVariant GridTableModel::data(const QModelIndex& index, int role) const {

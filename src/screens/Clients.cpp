@@ -32,6 +32,13 @@ void FillGrid(Grid& grid, Recordset& clients) {
   }
 }
 
+/// The cursor comes back to the selected client, so that what is marked is what the commands act on.
+void MarkClient(Grid& grid, const std::string& number) {
+  for (int row = 1; row < grid.Rows(); ++row) {
+    if (grid.Cell(row, 0) == number) return grid.SetRow(row);
+  }
+}
+
 bool ReallyDelete(Desktop& desktop, const std::string& client) {
   return desktop.Ask({.text = "Deleting a client is not recommended when transactions exist for the client.  All "
                               "transactions for [" +
@@ -60,6 +67,7 @@ void RefreshCustList(Program& program) {
     globals.oClient->CloseCn();
     globals.rsClientPick = globals.rsClients->Clone();
     FillGrid(list, *globals.rsClients);
+    MarkClient(list, program.convert.ToText(globals.CurCustNum));
     globals.rsClients->Close();
   });
 }

@@ -83,6 +83,7 @@ TEST_F(CustomerTest, SelectsByClickAndCountsClientsAtTheClocksNextTick) {
   AddClient(1004, "Zola", "Emil");
   Main().btnRefresh.Press();
   EXPECT_EQ(Names().back(), "Zola, Emil");
+  EXPECT_EQ(Main().CustList2.Row(), 3) << "what is marked is what is selected";
   EXPECT_EQ(Panel(2), "3 Clients");
   desktop.now = Date::FromYearMonthDay(2026, 11, 23) + 5.0 / 1440.0;
   desktop.Tick("Customer", "tmrClock");

@@ -305,6 +305,8 @@ void Profile::btnNewCustomer_Click() {
     ClearForm();
     // Adds the payment types to the combos once more.
     Form_Load();
+    SSTab1.SetTab(0);
+    txtFname.SetFocus();
   });
 }
 

@@ -176,6 +176,7 @@ TEST_F(ProfileTest, TurnsToANewClient) {
   EXPECT_EQ(profile.ActiveControl(), &profile.txtFname);
   profile.txtCity.UserType("Bath");
   Press(profile.btnNewCustomer, "Save Changes to Adams, Bea?", Answer::No);
+  EXPECT_EQ(profile.ActiveControl(), &profile.txtFname);
   EXPECT_EQ(profile.lblCustNum.Caption(), "1004");
   EXPECT_EQ(profile.txtCity.Text() + profile.txtLname.Text() + profile.lblBalDue.Caption(), "");
   EXPECT_TRUE(globals.NewClientMode);

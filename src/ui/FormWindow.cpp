@@ -23,6 +23,7 @@ constexpr Twips kFrameWidth = 120;
 constexpr Twips kFrameHeight = 405;
 constexpr Twips kMenuHeight = 285;
 constexpr int kNoticeMargin = 16;
+constexpr int kNoticeCharacters = 40;  // enough for its title beside the frame's buttons
 constexpr int kCascade = 28;
 
 }  // namespace
@@ -83,8 +84,11 @@ void FormWindow::BuildPage(const WidgetFactory& factory, FocusBridge& focus) {
     binding.focused = [&focus](Binding& focused) { focus.Give(focused); };
   });
   builder.Fill(*page, form_->Layout());
-  if (form_->Style().notice)
+  if (form_->Style().notice) {
     page->layout()->setContentsMargins(kNoticeMargin, kNoticeMargin, kNoticeMargin, kNoticeMargin);
+    page->setMinimumWidth(fontMetrics().averageCharWidth() * kNoticeCharacters);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+  }
   setCentralWidget(page);
   if (builder.MetStatusBar()) setStatusBar(builder.MetStatusBar());
   SetTabOrder();
@@ -115,7 +119,8 @@ void FormWindow::Present(QWidget* owner) {
   if (isMinimized()) showNormal();
   show();
   raise();
-  if (!form_->Style().bare) activateWindow();
+  // A notice leaves the keyboard where it is.
+  if (!form_->Style().bare && !form_->Style().notice) activateWindow();
 }
 
 void FormWindow::Withdraw() {

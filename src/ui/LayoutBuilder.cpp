@@ -159,6 +159,7 @@ LayoutBuilder::Piece LayoutBuilder::BuildBox(const Node& node, QWidget& page, Qt
 void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page, int stretch) {
   if (node.kind == Kind::Space) return box.addStretch(std::max(1, node.stretch));
   const bool across = box.direction() == QBoxLayout::LeftToRight;
+  if (across && node.kind == Kind::Field && box.count() > 0) box.addSpacing(kBetweenPairs - kSpacing);
   const Piece piece =
       node.kind == Kind::Line ? BuildLine(page, across ? Qt::Vertical : Qt::Horizontal) : Build(node, page);
   if (piece.widget) box.addWidget(piece.widget, stretch);

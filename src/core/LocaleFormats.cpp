@@ -100,6 +100,27 @@ const char* LongDateOf(Order order) {
   return "dddd, MMMM d, yyyy";
 }
 
+/// Where the first field of one of these letters stands, %d or %-d; npos if there is none.
+std::size_t FindField(std::string_view format, std::string_view letters) {
+  for (std::size_t at = format.find('%'); at != std::string_view::npos; at = format.find('%', at + 2)) {
+    std::string_view field = format.substr(at + 1);
+    Take(field, "-");
+    if (!field.empty() && letters.find(field.front()) != std::string_view::npos) return at;
+  }
+  return std::string_view::npos;
+}
+
+/// Where the month is written as a name the order may be another one than among numbers: a Swede writes 2026-11-22 and
+/// "22 november 2026".
+Order OrderWithNames(std::string_view dateAndTime, Order amongNumbers) {
+  const std::size_t month = FindField(dateAndTime, "bBh");
+  const std::size_t day = FindField(dateAndTime, "de");
+  const std::size_t year = FindField(dateAndTime, "Yy");
+  if (month == std::string_view::npos || day == std::string_view::npos) return amongNumbers;
+  if (year < month && year < day) return Order::YearMonthDay;
+  return day < month ? Order::DayMonthYear : Order::MonthDayYear;
+}
+
 bool HasTwelveHours(std::string_view timeFormat) {
   const auto has = [&](std::string_view part) { return timeFormat.find(part) != std::string_view::npos; };
   return has("%I") || has("%l") || has("%r");
@@ -133,7 +154,7 @@ void ApplyDates(const LocaleFacts& facts, RegionalSettings& settings) {
   if (const std::string shortDate = ShortDateOf(facts.dateFormat); !shortDate.empty()) {
     settings.shortDate = shortDate;
     settings.dateOrder = OrderOf(shortDate);
-    settings.longDate = LongDateOf(settings.dateOrder);
+    settings.longDate = LongDateOf(OrderWithNames(facts.dateAndTimeFormat, settings.dateOrder));
     settings.dateSeparator = shortDate.substr(shortDate.find_first_of(kDateMarks), 1);
   }
   settings.time = HasTwelveHours(facts.timeFormat) ? "h:mm:ss AMPM" : "HH:mm:ss";

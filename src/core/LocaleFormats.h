@@ -26,6 +26,7 @@ struct LocaleFacts {
 
   std::string dateFormat;  ///< in the letters of `strftime`, as is the time's
   std::string timeFormat;
+  std::string dateAndTimeFormat;  ///< often with the month's name
   std::string am;
   std::string pm;
   std::vector<std::string> monthNames;

@@ -75,6 +75,7 @@ LocaleFacts FactsInForce() {
   facts.negative = Layout(numbers.n_cs_precedes, numbers.n_sep_by_space, numbers.n_sign_posn);
   facts.dateFormat = Utf8(nl_langinfo(D_FMT));
   facts.timeFormat = Utf8(nl_langinfo(T_FMT));
+  facts.dateAndTimeFormat = Utf8(nl_langinfo(D_T_FMT));
   facts.am = Utf8(nl_langinfo(AM_STR));
   facts.pm = Utf8(nl_langinfo(PM_STR));
   facts.monthNames = Names({MON_1, MON_2, MON_3, MON_4, MON_5, MON_6, MON_7, MON_8, MON_9, MON_10, MON_11, MON_12});

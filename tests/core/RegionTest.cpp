@@ -15,10 +15,12 @@ std::string Pattern(int symbolFirst, int blankBetween, int signPlace) {
   return settings.negativeCurrency;
 }
 
-RegionalSettings WithDates(const std::string& dateFormat, const std::string& timeFormat = "%T") {
+RegionalSettings WithDates(const std::string& dateFormat, const std::string& timeFormat = "%T",
+                           const std::string& dateAndTimeFormat = "") {
   LocaleFacts facts;
   facts.dateFormat = dateFormat;
   facts.timeFormat = timeFormat;
+  facts.dateAndTimeFormat = dateAndTimeFormat;
   RegionalSettings settings;
   ApplyDates(facts, settings);
   return settings;
@@ -46,6 +48,12 @@ TEST(LocaleFormats, GiveDatesTheirOrderAndFourDigitsOfYear) {
   EXPECT_EQ(WithDates("%d %b %Y").shortDate, RegionalSettings().shortDate);
   EXPECT_EQ(WithDates("", "%H:%M:%S").time, "HH:mm:ss");
   EXPECT_EQ(WithDates("", "%I:%M:%S %p").time, "h:mm:ss AMPM");
+}
+
+TEST(LocaleFormats, OrderDatesWithNamesAsTheLocaleDoes) {
+  EXPECT_EQ(WithDates("%F", "%T", "den %a %e %b %Y %T").longDate, "dddd, d MMMM yyyy");
+  EXPECT_EQ(WithDates("%F", "%T", "%Y. %b. %-e., %A").longDate, "dddd, yyyy MMMM d");
+  EXPECT_EQ(WithDates("%d.%m.%Y", "%T", "%x (%a) %r").longDate, "dddd, d MMMM yyyy");
 }
 
 TEST(LocaleFormats, MakeDatesThatReadBack) {

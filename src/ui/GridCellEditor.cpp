@@ -94,6 +94,8 @@ void GridCellEditor::ShowList() {
   if (!list_->isVisible()) {
     list_->clear();
     for (const auto& item : grid_->DropDownItems(grid_->Col())) list_->addItem(ToQt(item));
+    // A narrow column cuts no item short.
+    list_->view()->setMinimumWidth(list_->sizeHint().width());
   }
   const int item = list_->findText(ToQt(grid_->EditText()), Qt::MatchExactly | Qt::MatchCaseSensitive);
   list_->setCurrentIndex(item);

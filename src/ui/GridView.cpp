@@ -1,6 +1,7 @@
 #include "ui/GridView.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include <QApplication>
 #include <QHeaderView>
@@ -30,6 +31,8 @@ constexpr int kRowsMeasured = 200;
 constexpr int kWidestText = 260;  // no column asks for more, in pixels
 /// Columns were measured for a smaller font; they grow by up to this where there is room.
 constexpr double kColumnGrowth = 1.3;
+/// Texts are cut short to this share of their column's width, at most, to spare the user the scrolling.
+constexpr double kTightest = 0.6;
 
 /// What the cells of a column will hold, as long as they are empty.
 QString SampleOf(ColumnType type) {
@@ -83,6 +86,7 @@ void GridView::SetLook() {
   verticalHeader()->setDefaultSectionSize(rowHeight);
   horizontalHeader()->setStretchLastSection(true);
   horizontalHeader()->setMinimumSectionSize(kNarrowest);
+  horizontalHeader()->setTextElideMode(Qt::ElideRight);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setFixedHeight(rowHeight + 2);
@@ -224,27 +228,54 @@ GridView::ColumnContent GridView::LookAt(int col) const {
   static const QRegularExpression figure(R"(^[-(]?[^\w\s/-]?\d[\d.,]*[^\w\s/-]?[-)]?$)");
   static const QRegularExpression exact(R"(^[-(]?[^\w\s/-]?\d[\d.,/-]*[.,/-]\d+[^\w\s/-]?[-)]?$)");
   const QString sample = SampleOf(grid_->ColDataType(col));
-  ColumnContent content{.width = fontMetrics().horizontalAdvance(sample), .isExact = !sample.isEmpty()};
+  ColumnContent content{.width = fontMetrics().horizontalAdvance(sample)};
   int filled = 0;
+  int figures = 0;
+  int exacts = 0;
+  int others = 0;
   const int rows = std::min(grid_->Rows(), kRowsMeasured);
   for (int row = 0; row < rows; ++row) {
     const QString text = ToQt(grid_->DisplayText(row, col));
     content.width = std::max(content.width, fontMetrics().horizontalAdvance(text));
     if (row == 0 || text.isEmpty()) continue;
     ++filled;
-    content.isFigures = (filled == 1 || content.isFigures) && figure.match(text).hasMatch();
-    content.isExact = (filled == 1 || content.isExact) && exact.match(text).hasMatch();
+    const bool isFigure = figure.match(text).hasMatch();
+    const bool isExact = exact.match(text).hasMatch();
+    figures += isFigure;
+    exacts += isExact;
+    others += !isFigure && !isExact;
   }
+  content.isFigures = filled > 0 && figures == filled;
+  content.isExact = filled == 0 ? !sample.isEmpty() : exacts > 0 && others == 0;
   return content;
 }
 
-/// Each column first gets the width it was given or what its texts need, whichever is less, but amounts and dates,
-/// which are of no use when they are cut off, get what they need; then, as far as there is room, all texts get
-/// it; then it grows with the font. The rest is the last column's.
+/// The width that each column was given or what its texts need, whichever is less; but amounts and dates, which are of
+/// no use when they are cut off, get what they need. Where that is too much, texts are cut short before the user has to
+/// scroll, the last ones first.
+std::vector<int> GridView::FirstWidths() const {
+  std::vector<int> widths(needs_.size(), 0);
+  int missing = -viewport()->width();
+  for (std::size_t col = 0; col < widths.size(); ++col) {
+    const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
+    if (given > 0) widths[col] = std::max(std::min(given, needs_[col].whole), needs_[col].least);
+    missing += widths[col];
+  }
+  for (std::size_t col = widths.size(); col-- > 0 && missing > 0;) {
+    const int shortest = std::max(needs_[col].least, static_cast<int>(widths[col] * kTightest));
+    const int less = std::clamp(widths[col] - shortest, 0, missing);
+    widths[col] -= less;
+    missing -= less;
+  }
+  return widths;
+}
+
+/// From those first widths on, as far as there is room, all texts get what they need; then each column gets the width
+/// that it was given; then it grows with the font. The rest is the last column's.
 void GridView::ArrangeColumns() {
   const QScopedValueRollback arranging(arranging_, true);
-  std::vector<int> widths(needs_.size(), 0);
-  int room = viewport()->width();
+  std::vector<int> widths = FirstWidths();
+  int room = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   const auto raise = [&](auto wanted) {
     for (std::size_t col = 0; col < widths.size(); ++col) {
       const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
@@ -254,11 +285,6 @@ void GridView::ArrangeColumns() {
       room -= more;
     }
   };
-  for (std::size_t col = 0; col < widths.size(); ++col) {
-    const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
-    if (given > 0) widths[col] = std::max(std::min(given, needs_[col].whole), needs_[col].least);
-    room -= widths[col];
-  }
   raise([](int, int need) { return need; });
   raise([](int given, int) { return given; });
   raise([](int given, int) { return static_cast<int>(given * kColumnGrowth); });

@@ -68,6 +68,7 @@ class GridView : public QTableView, private GridObserver {
   void Search(const QString& letters);
   int FirstShownColumn() const;
   void MeasureColumns();
+  std::vector<int> FirstWidths() const;
   void ArrangeColumns();
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);
   void FollowTopRow();

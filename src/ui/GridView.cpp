@@ -78,7 +78,6 @@ void GridView::SetLook() {
   setHorizontalScrollMode(ScrollPerPixel);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setCornerButtonEnabled(false);
-  setAttribute(Qt::WA_InputMethodEnabled);
   const int rowHeight = fontMetrics().height() + kRowPadding;
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -343,9 +342,20 @@ void GridView::scrollContentsBy(int dx, int dy) {
 
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
+  AcceptInputMethods();
   // A press on a heading, or with another button of the mouse, ends no edit.
   if (grid_) editor_->TakeKeyboard();
   viewport()->update();
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  AcceptInputMethods();
+}
+
+/// The toolkit turns them off whenever it finds that it edits nothing here; an accented letter may begin an edit, too.
+void GridView::AcceptInputMethods() {
+  setAttribute(Qt::WA_InputMethodEnabled);
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {
@@ -431,8 +441,10 @@ int GridView::FirstShownColumn() const {
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {
-  if (grid_ && !event->commitString().isEmpty()) grid_->UserText(FromQt(event->commitString()));
   event->accept();
+  if (!grid_ || event->commitString().isEmpty()) return;
+  grid_->UserText(FromQt(event->commitString()));
+  Search(event->commitString());
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {

@@ -35,6 +35,7 @@ class GridView : public QTableView, private GridObserver {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void focusOutEvent(QFocusEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void updateGeometries() override;
@@ -76,6 +77,7 @@ class GridView : public QTableView, private GridObserver {
   void TellVisibleRows();
   QRect CurrentCell() const;
   void SectionResized(int section, int width);
+  void AcceptInputMethods();
   bool IsOnHelper(const QPoint& at) const;
   void ClickOnHelper(int row, int col);
   void ClickBesideRows();

@@ -44,6 +44,15 @@ TEST_F(GridInWindow, TypingEditsAndAnArrowMovesOn) {
   EXPECT_TRUE(Table().hasFocus());
 }
 
+TEST_F(GridInWindow, AnAccentedLetterBeginsAnEdit) {
+  ClickCell(2, 1);
+  EXPECT_TRUE(Table().testAttribute(Qt::WA_InputMethodEnabled));
+  QInputMethodEvent composed;
+  composed.setCommitString("\u00e9");
+  QApplication::sendEvent(&Table(), &composed);
+  EXPECT_EQ(Rows().EditText(), "\u00e9");
+}
+
 TEST_F(GridInWindow, F2KeepsTheTextAndEscapeDropsTheEdit) {
   ClickCell(1, 1);
   Log();

@@ -61,13 +61,17 @@ int GridTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : columns_;
 }
 
-/// The next row, round the end, whose text begins with what is looked for.
+/// The next row, round the end, that begins with what is looked for; failing that, one with a later cell that does.
 QModelIndexList GridTableModel::match(const QModelIndex& start, int role, const QVariant& value, int,
                                       Qt::MatchFlags) const {
   const QString wanted = Folded(value.toString());
-  for (int step = 0; step < rows_; ++step) {
-    const QModelIndex cell = index((start.row() + step) % rows_, start.column());
-    if (Folded(data(cell, role).toString()).startsWith(wanted)) return {cell};
+  for (int col = start.column(); col < columns_; ++col) {
+    if (grid_->ColWidth(col) == 0) continue;
+    for (int step = 0; step < rows_; ++step) {
+      const int row = (start.row() + step) % rows_;
+      const QString text = data(index(row, col), role).toString();
+      if (Folded(text).startsWith(wanted)) return {index(row, start.column())};
+    }
   }
   return {};
 }

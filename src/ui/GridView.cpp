@@ -419,7 +419,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   Search(event->text());
 }
 
-/// Letters typed in a list lead to the next row whose first column begins with them.
+/// Letters typed in a list lead to the next row that has them at the beginning of a cell, of the first one if possible.
 void GridView::Search(const QString& letters) {
   if (!grid_ || grid_->Kind() != GridKind::List) return;
   if (waiting_) CatchUp();

@@ -26,10 +26,14 @@ bool BeginsWith(std::string_view text, std::string_view letters) {
                                                      [](char a, char b) { return LowerCase(a) == LowerCase(b); });
 }
 
-int FindItem(const std::vector<std::string>& items, std::string_view letters) {
-  const auto found =
-      std::find_if(items.begin(), items.end(), [&](const auto& item) { return BeginsWith(item, letters); });
-  return found == items.end() ? -1 : static_cast<int>(found - items.begin());
+/// The first item from `first` on, round the end, that begins with the letters; -1 for none.
+int FindItem(const std::vector<std::string>& items, std::string_view letters, int first) {
+  const auto count = static_cast<int>(items.size());
+  for (int i = 0; i < count; ++i) {
+    const int item = (first + i) % count;
+    if (BeginsWith(items[static_cast<std::size_t>(item)], letters)) return item;
+  }
+  return -1;
 }
 
 bool IsTicked(const std::string& content) {
@@ -103,15 +107,16 @@ void Grid::ChooseItem(int index) {
   ShowEdit();
 }
 
-/// Goes on with the letters typed before, or begins anew with these if no item follows both.
+/// Goes on with the letters typed before, or begins anew with these behind the item chosen if no item follows both: the
+/// same letter again and again leads from one of its items to the next.
 void Grid::SearchItem(std::string_view letters) {
   const auto& items = model_->Column(Col()).items;
   auto& searched = model_->edit->letters;
   searched += letters;
-  int item = FindItem(items, searched);
+  int item = FindItem(items, searched, 0);
   if (item < 0) {
     searched = letters;
-    item = FindItem(items, searched);
+    item = FindItem(items, searched, model_->edit->item + 1);
   }
   if (item >= 0) ChooseItem(item);
 }

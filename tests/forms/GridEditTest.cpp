@@ -176,6 +176,9 @@ TEST_F(GridEditTest, LettersSearchADropDown) {
   EXPECT_EQ(g.EditText(), "Visa") << "a letter that goes on with nothing begins anew";
   Type(g, "q");
   EXPECT_EQ(g.EditText(), "Visa");
+  Type(g, "cc");
+  EXPECT_EQ(g.EditText(), "Check") << "the same letter leads on";
+  Type(g, "v");
   g.UserKey(Key::Down);
   EXPECT_EQ(g.Cell(1, 2), "Visa");
   EXPECT_EQ(g.Row(), 2);

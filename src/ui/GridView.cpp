@@ -9,7 +9,6 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
@@ -34,24 +33,14 @@ constexpr double kColumnGrowth = 1.3;
 /// Texts are cut short to this share of their column's width, at most, to spare the user the scrolling.
 constexpr double kTightest = 0.6;
 
-/// What the cells of a column will hold, as long as they are empty.
-QString SampleOf(ColumnType type) {
-  switch (type) {
-    case ColumnType::Currency:
-      return "$0,000.00";
-    case ColumnType::Date:
-      return "00/00/0000";
-    case ColumnType::Plain:
-    case ColumnType::Boolean:
-      break;
-  }
-  return {};
-}
-
 }  // namespace
 
-GridView::GridView(Grid& grid, QWidget* parent)
-    : QTableView(parent), grid_(&grid), table_(new GridTableModel(grid)), painter_(new GridCellPainter(grid, this)) {
+GridView::GridView(Grid& grid, QWidget* parent, const RegionalSettings& settings)
+    : QTableView(parent),
+      grid_(&grid),
+      table_(new GridTableModel(grid)),
+      painter_(new GridCellPainter(grid, this)),
+      texts_(settings) {
   table_->setParent(this);
   setModel(table_);
   setItemDelegate(painter_);
@@ -224,9 +213,7 @@ void GridView::MeasureColumns() {
 }
 
 GridView::ColumnContent GridView::LookAt(int col) const {
-  static const QRegularExpression figure(R"(^[-(]?[^\w\s/-]?\d[\d.,]*[^\w\s/-]?[-)]?$)");
-  static const QRegularExpression exact(R"(^[-(]?[^\w\s/-]?\d[\d.,/-]*[.,/-]\d+[^\w\s/-]?[-)]?$)");
-  const QString sample = SampleOf(grid_->ColDataType(col));
+  const QString sample = texts_.Sample(grid_->ColDataType(col));
   ColumnContent content{.width = fontMetrics().horizontalAdvance(sample)};
   int filled = 0;
   int figures = 0;
@@ -238,8 +225,8 @@ GridView::ColumnContent GridView::LookAt(int col) const {
     content.width = std::max(content.width, fontMetrics().horizontalAdvance(text));
     if (row == 0 || text.isEmpty()) continue;
     ++filled;
-    const bool isFigure = figure.match(text).hasMatch();
-    const bool isExact = exact.match(text).hasMatch();
+    const bool isFigure = texts_.IsFigure(text);
+    const bool isExact = texts_.IsExact(text);
     figures += isFigure;
     exacts += isExact;
     others += !isFigure && !isExact;

@@ -7,6 +7,7 @@
 
 #include "forms/Grid.h"
 #include "ui/Binding.h"
+#include "ui/CellTexts.h"
 
 namespace norvane::ui {
 
@@ -18,7 +19,8 @@ class GridTableModel;
 /// has become of them. However often the grid changes, the view catches up once, before it paints or takes input.
 class GridView : public QTableView, private GridObserver {
  public:
-  GridView(Grid& grid, QWidget* parent);
+  /// Amounts and dates are recognised as the region writes them.
+  GridView(Grid& grid, QWidget* parent, const RegionalSettings& settings);
   Binding* Bound() const { return binding_; }
 
   QSize sizeHint() const override;
@@ -87,6 +89,7 @@ class GridView : public QTableView, private GridObserver {
   GridCellPainter* painter_;
   GridCellEditor* editor_;
   Binding* binding_;
+  CellTexts texts_;
   std::map<int, int> userWidths_;  ///< by column, in pixels
   std::vector<Needs> needs_;       ///< by column
   bool waiting_ = false;           ///< it has to catch up

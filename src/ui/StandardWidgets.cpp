@@ -334,10 +334,6 @@ Binding* MakeTabs(TabControl& tabs, QWidget* parent) {
   return binding;
 }
 
-Binding* MakeGrid(Grid& grid, QWidget* parent) {
-  return (new GridView(grid, parent))->Bound();
-}
-
 }  // namespace
 
 void RegisterStandardWidgets(WidgetFactory& factory, const RegionalSettings& settings) {
@@ -354,7 +350,8 @@ void RegisterStandardWidgets(WidgetFactory& factory, const RegionalSettings& set
   factory.Register<Picture>(MakePicture);
   factory.Register<StatusBar>(MakeStatusBar);
   factory.Register<TabControl>(MakeTabs);
-  factory.Register<Grid>(MakeGrid);
+  factory.Register<Grid>(
+      [settings](Grid& grid, QWidget* parent) { return (new GridView(grid, parent, settings))->Bound(); });
 }
 
 }  // namespace norvane::ui

@@ -32,7 +32,8 @@ class WidgetFactory {
   std::vector<Maker<Control>> makers_;
 };
 
-/// Registers the controls of forms/Controls.h and the grid. Dates are shown in the region's short form.
+/// Registers the controls of forms/Controls.h and the grid. Dates are shown in the region's short form;
+/// grids recognise amounts and dates as the region writes them.
 void RegisterStandardWidgets(WidgetFactory& factory, const RegionalSettings& settings);
 
 }  // namespace norvane::ui

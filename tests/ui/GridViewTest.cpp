@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <QTableView>
 
+#include "ui/CellTexts.h"
 #include "ui/GridCellPainter.h"
 #include "ui/WindowTest.h"
 
@@ -207,6 +208,28 @@ TEST_F(GridInWindow, LettersLookForARowOfAList) {
   Type("an d");
   EXPECT_THAT(form.clicked, testing::ElementsAre("Mills", "Möss", "Moore", "Adams", "van Acker", "van Dam"));
   EXPECT_EQ(form.Names.Col(), 2);
+}
+
+TEST(CellTexts, TellFiguresFromDatesUnderTheRegionsSettings) {
+  RegionalSettings sweden;
+  sweden.currencySymbol = "kr";
+  sweden.currencyThousandsSeparator = "\u00A0";
+  sweden.currencyDecimalPoint = ",";
+  sweden.positiveCurrency = "%n %s";
+  const CellTexts home{RegionalSettings()};
+  const CellTexts abroad(sweden);
+  EXPECT_EQ(abroad.Sample(ColumnType::Currency), QString("0\u00A0000,00 kr"));
+  for (const char* amount : {"-12\u00A0339,08 kr", "9,59 kr", "0,5"}) {
+    EXPECT_TRUE(abroad.IsFigure(amount) && abroad.IsExact(amount)) << amount;
+  }
+  for (const char* amount : {"$1,234.50", "($1,234.50)", "-£9.59", "￥ -12,339.08"}) {
+    EXPECT_TRUE(home.IsFigure(amount) && home.IsExact(amount)) << amount;
+  }
+  for (const char* date : {"17.04.2026", "2026. 04. 17", "2026-04-17", "4/17/2026"}) {
+    EXPECT_TRUE(!home.IsFigure(date) && home.IsExact(date)) << date;
+  }
+  EXPECT_TRUE(home.IsFigure("1042") && !home.IsExact("1042"));
+  for (const char* word : {"1 year", "555 kr", "", "12 mm"}) EXPECT_FALSE(home.IsFigure(word)) << word;
 }
 
 }  // namespace

@@ -54,4 +54,14 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count) {
   return text.substr(0, end);
 }
 
+std::string OneLine(std::string_view text) {
+  std::string line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '\n' && i > 0 && text[i - 1] == '\r') continue;
+    line += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
+  }
+  return line;
+}
+
 }  // namespace norvane

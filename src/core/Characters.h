@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace norvane {
@@ -34,5 +35,8 @@ bool Take(std::string_view& text, std::string_view start);
 std::string_view FirstBytes(std::string_view text, std::size_t count);
 /// The first `count` characters at most.
 std::string_view FirstCharacters(std::string_view text, std::size_t count);
+
+/// The text in one line and one cell: each tab and each end of a line becomes a blank.
+std::string OneLine(std::string_view text);
 
 }  // namespace norvane

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/Characters.h"
 #include "core/RuntimeError.h"
 #include "forms/Form.h"
 #include "forms/Grid.h"
@@ -28,11 +29,12 @@ void TextBox::SetText(std::string text) {
   Change.Raise();
 }
 
-void TextBox::UserType(std::string text) {
+// What was pasted from a page or a sheet would break the row of a list that shows the text.
+void TextBox::UserType(const std::string& text) {
   if (!Enabled()) return;
   const Dispatch dispatch(Parent());
   SetFocus();
-  if (Parent().IsLoaded()) SetText(std::move(text));
+  if (Parent().IsLoaded()) SetText(style_.lines > 1 ? text : OneLine(text));
 }
 
 namespace {
@@ -161,7 +163,7 @@ void ComboBox::UserPick(int index) {
   Click.Raise();
 }
 
-void ComboBox::UserType(std::string text) {
+void ComboBox::UserType(const std::string& text) {
   if (style_ == ComboStyle::ItemsOnly) {
     const auto found = std::find(items_.begin(), items_.end(), text);
     if (found != items_.end()) UserPick(static_cast<int>(found - items_.begin()));
@@ -170,8 +172,9 @@ void ComboBox::UserType(std::string text) {
   if (!Enabled()) return;
   const Dispatch dispatch(Parent());
   SetFocus();
-  if (!Parent().IsLoaded() || text == text_) return;
-  text_ = std::move(text);
+  std::string typed = OneLine(text);
+  if (!Parent().IsLoaded() || typed == text_) return;
+  text_ = std::move(typed);
   Notify(Aspect::Text);
   Change.Raise();
 }

@@ -41,8 +41,9 @@ class TextBox : public Control {
   const TextBoxStyle& Style() const { return style_; }
   bool TakesFocus() const override { return true; }
 
-  /// The user's typing: the focus comes here first, then the text is what it says.
-  void UserType(std::string text);
+  /// The user's typing: the focus comes here first, then the text is what it says, in one line unless the box takes
+  /// several.
+  void UserType(const std::string& text);
 
   Event<> Change{Parent()};
 
@@ -141,7 +142,7 @@ class ComboBox : public Control {
   /// The user's pick: Change, then Click.
   void UserPick(int index);
   /// The user's typing; an items-only combo ignores what is no item.
-  void UserType(std::string text);
+  void UserType(const std::string& text);
 
   Event<> Change{Parent()};
   Event<> Click{Parent()};

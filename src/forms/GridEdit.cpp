@@ -1,29 +1,15 @@
 #include <algorithm>
 
+#include "core/Characters.h"
 #include "forms/GridModel.h"
 
 namespace norvane {
 
 namespace {
 
-/// A cell holds one line: what breaks a line or parts cells becomes a blank.
-std::string OneLine(std::string_view text) {
-  std::string line;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    if (c == '\n' && i > 0 && text[i - 1] == '\r') continue;
-    line += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
-  }
-  return line;
-}
-
-char LowerCase(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-}
-
 bool BeginsWith(std::string_view text, std::string_view letters) {
   return text.size() >= letters.size() && std::equal(letters.begin(), letters.end(), text.begin(),
-                                                     [](char a, char b) { return LowerCase(a) == LowerCase(b); });
+                                                     [](char a, char b) { return ToLower(a) == ToLower(b); });
 }
 
 /// The first item from `first` on, round the end, that begins with the letters; -1 for none.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Characters.h"
 #include "reports/LineBreaker.h"
 #include "reports/TableFormat.h"
 
@@ -11,13 +12,6 @@ namespace {
 constexpr float kSmallestSize = 8.0F;
 constexpr float kStep = 0.5F;
 constexpr std::string_view kEllipsis = "\u2026";
-
-std::string OneLine(std::string_view text) {
-  std::string line(text);
-  std::replace_if(
-      line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-  return line;
-}
 
 void DropLastCharacter(std::string& text) {
   while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) text.pop_back();

@@ -40,8 +40,9 @@ TEST_F(ControlsTest, ATextRaisesChangeIfItDiffers) {
   form().text.SetText("a");
   form().text.SetText("a");
   EXPECT_THAT(Taken(), ElementsAre("text.Change"));
-  form().text.UserType("b");
+  form().text.UserType("a\r\nb\tc");
   EXPECT_THAT(Taken(), ElementsAre("other.LostFocus", "text.Change"));
+  EXPECT_EQ(form().text.Text(), "a b c");
   form().date.SetText("");
   form().date.SetText("__/__/__");
   EXPECT_THAT(Taken(), IsEmpty());

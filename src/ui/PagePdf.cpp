@@ -1,5 +1,6 @@
 #include "ui/PagePdf.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -14,19 +15,23 @@ namespace {
 
 constexpr int kPdfResolution = 1200;
 
-/// A path to begin with: the document's title in the user's folder of documents, without what names of files can't
-/// have.
-QString SuggestedFile(QString title) {
-  title.replace('/', '-');
-  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/" + title + ".pdf";
+/// The user's documents, or the home folder of who has no such folder.
+QString SuggestedFolder() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+/// A name to begin with: the document's title, without what names of files can't have.
+QString SuggestedName(QString title) {
+  return title.replace('/', '-') + ".pdf";
 }
 
 /// Empty if the user doesn't choose one.
 QString AskForFile(const QString& title, QWidget* parent) {
-  QFileDialog dialog(parent, "Save as PDF", SuggestedFile(title), "PDF (*.pdf)");
+  QFileDialog dialog(parent, "Save as PDF", SuggestedFolder(), "PDF (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
-  dialog.selectFile(SuggestedFile(title));
+  dialog.selectFile(SuggestedName(title));
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -111,6 +111,7 @@ void PreviewWidget::BuildBar() {
 
 void PreviewWidget::BuildZoomButton() {
   zoom_ = new QPushButton(bar_);
+  zoom_->setFocusPolicy(Qt::TabFocus);  // the mouse leaves the keyboard to the pages
   zoom_->setToolTip("Zoom");
   zoom_->setAccessibleName("Zoom");
   auto* menu = new QMenu(zoom_);

@@ -139,6 +139,8 @@ void FormWindow::Abandon() {
 /// Above its owner, which is not its parent: an owner may go and leave the window behind.
 void FormWindow::BelongTo(QWidget* owner) {
   setWindowModality(form_->IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+  // Window systems keep above its owner only what calls itself a dialog.
+  if (owner && windowType() == Qt::Window) setWindowFlags(kDialogFrame | Qt::WindowMinMaxButtonsHint);
   winId();
   if (owner) owner->winId();
   windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);

@@ -21,7 +21,10 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
   btnDetails.Click = [this] { InvoiceList_DblClick(); };
   btnNewInvoice.Click = [this] { StartNewInvoice(program); };
   btnDelete.Click = [this] { btnDelete_Click(); };
-  btnPrint.Click = [this] { ShowAnew(screens, "PrtInvoice"); };
+  btnPrint.Click = [this] {
+    SelectMarkedIfNone();
+    ShowAnew(screens, "PrtInvoice");
+  };
   btnPrint.SetEnabled(screens.Has("PrtInvoice"));
   btnCustInfo.Click = [this] { ShowProfile(program); };
   btnReceipts.Click = [this] { btnReceipts_Click(); };
@@ -84,8 +87,14 @@ void CustInvoices::InvoiceList_Click() {
   });
 }
 
+/// A new invoice takes the selection along; when it is gone, stored or not, the row still marked is the selected one.
+void CustInvoices::SelectMarkedIfNone() {
+  if (globals.CurInvoiceNum == 0 && InvoiceList.Row() > 0) SelectInvoice();
+}
+
 // An invoice that stands open closes first, which may reload this list and so select another one.
 void CustInvoices::InvoiceList_DblClick() {
+  SelectMarkedIfNone();
   const std::tuple asked(globals.CurInvoiceNum, globals.CurInvoiceDate, globals.CurClientName, globals.CurInvoiceDesc);
   if (!CloseByItsExit(screens, InvoiceDetail::kName)) return;
   std::tie(globals.CurInvoiceNum, globals.CurInvoiceDate, globals.CurClientName, globals.CurInvoiceDesc) = asked;
@@ -95,6 +104,7 @@ void CustInvoices::InvoiceList_DblClick() {
 // The deletion itself is carried out as the list is read anew: all of the client's invoices, whatever the since date.
 void CustInvoices::btnDelete_Click() {
   Trapped("ClientInvoices.btnDelete_Click -", [&] {
+    SelectMarkedIfNone();
     const std::string number = convert.ToText(globals.CurInvoiceNum);
     globals.InvoicesStale =
         AskYesNo("Delete invoice #" + number + " and all associated charges?", "Delete Invoice ... #" + number + "?");

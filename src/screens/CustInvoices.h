@@ -43,6 +43,7 @@ class CustInvoices : public Form {
  private:
   void Form_Load() override;
   void btnGo_Click();
+  void SelectMarkedIfNone();
   void InvoiceList_Click();
   void InvoiceList_DblClick();
   void btnDelete_Click();

@@ -122,6 +122,11 @@ TEST_F(CustInvoicesTest, OpensAnInvoiceByEveryWayAndAsksBeforeItTakesThePlaceOfU
   Sales().InvoiceList.UserClick(2, 1);
   Sales().btnDetails.Press();
   EXPECT_EQ(shown(), "1001");
+  Sales().btnNewInvoice.Press();
+  desktop.Expect("Save changes to invoice?", Answer::No);
+  Sheet().btnExit.Press();
+  Sales().btnDetails.Press();
+  EXPECT_EQ(shown(), "1001") << "a new invoice given up leaves the row marked before it";
 
   Open(1002).txtTerms.UserType("Net 30");
   desktop.Expect("Save changes to invoice?", Answer::Cancel);

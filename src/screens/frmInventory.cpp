@@ -41,7 +41,8 @@ void frmInventory::Form_Load() {
     desktop.DoEvents();
     screens.Show("GettingInventory");
     desktop.DoEvents();
-    GetInventory(workspace, globals.CurCatNum, SelItemNum);
+    CatShown = globals.CurCatNum;
+    GetInventory(workspace, CatShown, SelItemNum);
     SetForm();
     screens.Unload("GettingInventory");
   });
@@ -100,8 +101,8 @@ void frmInventory::FillCategories() {
 
 void frmInventory::cmbCategory_Click() {
   Trapped("frmInventory.cmbCategory_Click -", [&] {
-    globals.CurCatNum = ValLong(std::string_view(cmbCategory.Text()).substr(0, 4));
-    GetInventory(workspace, globals.CurCatNum, SelItemNum);
+    globals.CurCatNum = CatShown = ValLong(std::string_view(cmbCategory.Text()).substr(0, 4));
+    GetInventory(workspace, CatShown, SelItemNum);
     InventoryList.SetRows(1);
     ItemRow = 1;
     const std::int32_t count = globals.rsInventory->RecordCount();
@@ -163,7 +164,7 @@ void frmInventory::StoreRow(std::int32_t row) {
   }
   Inventory& item = *globals.oInventory;
   item.OpenCn();
-  item.Category = globals.CurCatNum;
+  item.Category = CatShown;
   item.description = InventoryList.Cell(row, 2);
   item.charge = convert.ToCurrency(InventoryList.Cell(row, 3));
   item.Par = convert.ToLong(InventoryList.Cell(row, 4));

@@ -79,6 +79,10 @@ TEST_F(InventoryScreens, WhatCannotBeStoredIsReportedUntilItIsMended) {
   Stock().cmbCategory.UserPick(2);
   EXPECT_EQ(Item(1001), "1|Carpenters hammer|130000|4|2|1 year");
   EXPECT_EQ(Row(1), "|1002|Drill|$89.99|2|4|");
+  Main().btnInventory.Press();
+  EXPECT_EQ(globals.CurCatNum, 1);
+  EnterAndGoDown(List(), 1, 5, "3");
+  EXPECT_EQ(Item(1002), "3|Drill|899900|2|3|0") << "an item keeps the category it is listed in";
 }
 
 TEST_F(InventoryScreens, AnItemIsDeletedAfterTheQuestionAndItsCategoryStays) {

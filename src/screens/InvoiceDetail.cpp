@@ -1,5 +1,7 @@
 #include "screens/InvoiceDetail.h"
 
+#include <utility>
+
 #include "core/store/Recordset.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
@@ -97,6 +99,7 @@ void InvoiceDetail::OpenInvoice() {
   Invoice& invoice = *globals.oInvoice;
   invoice.OpenCn();
   invoice.GetInvoice(globals.CurInvoiceNum);
+  if (invoice.InvoiceNum == globals.CurInvoiceNum) CustShown = invoice.CustNum;
   lblInvoiceNum.SetCaption(convert.ToText(globals.CurInvoiceNum));
   txtDescription.SetText(globals.CurInvoiceDesc);
   lblCustomer.SetCaption(globals.CurClientName);
@@ -126,7 +129,7 @@ void InvoiceDetail::BeginInvoice() {
   ShowShippingAndCharges();
   invoice.CloseCn();
   globals.oClient->OpenCn();
-  lblCustomer.SetCaption(globals.oClient->ClientName(globals.CurCustNum));
+  lblCustomer.SetCaption(globals.oClient->ClientName(CustShown));
   globals.oClient->CloseCn();
   globals.InvoiceDirty = true;
 }
@@ -166,7 +169,7 @@ void InvoiceDetail::TakeFromControls() {
   Invoice& invoice = *globals.oInvoice;
   const auto money = [](const TextBox& box) { return Currency::FromDouble(Val(box.Text())); };
   invoice.InvoiceNum = NumberShown();
-  invoice.CustNum = globals.CurCustNum;
+  invoice.CustNum = CustShown;
   if (convert.IsDate(txtDate.Text())) invoice.InvoiceDate = convert.ToDate(txtDate.Text());
   invoice.description = txtDescription.Text();
   invoice.SalesRep = txtSalesRep.Text();
@@ -240,7 +243,10 @@ void InvoiceDetail::btnPrint_Click() {
   Trapped("InvoiceDetail.btnPrint_Click -", [&] {
     if (!OfferToSave()) return;
     globals.CurInvoiceNum = NumberShown();
+    // The report is made out to the client selected, who may be another than this invoice's.
+    const std::int32_t selected = std::exchange(globals.CurCustNum, CustShown);
     ShowAnew(screens, "PrtInvoice");
+    globals.CurCustNum = selected;
     if (Form* report = screens.Find("PrtInvoice")) report->Refresh();
   });
 }

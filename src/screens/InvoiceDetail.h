@@ -94,11 +94,12 @@ class InvoiceDetail : public Form {
   void btnRemove_Click();
 
   RowEditing rows_;
-  Object<Recordset> rsItems;  ///< the lines while they are loaded
-  std::int32_t LineRow = 1;   ///< the next row to fill while lines are loaded
-  std::string BackOrderText;  ///< of the line being loaded, empty for none
-  bool SkipTotal = false;     ///< the first LeaveCell after a load doesn't total
-  bool NewInvoice = false;    ///< the head isn't stored yet
+  Object<Recordset> rsItems;                    ///< the lines while they are loaded
+  std::int32_t LineRow = 1;                     ///< the next row to fill while lines are loaded
+  std::string BackOrderText;                    ///< of the line being loaded, empty for none
+  bool SkipTotal = false;                       ///< the first LeaveCell after a load doesn't total
+  std::int32_t CustShown = globals.CurCustNum;  ///< whose invoice it is, whoever is selected meanwhile
+  bool NewInvoice = false;                      ///< the head isn't stored yet
 };
 
 }  // namespace norvane

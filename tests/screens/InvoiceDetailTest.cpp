@@ -162,6 +162,7 @@ TEST_F(InvoiceDetailTest, PrintsTheInvoiceShownOnceItIsDecidedAbout) {
   StandIn({"PrtInvoice", "Receipts"});
   InvoiceDetail& sheet = OpenOne();
   globals.CurInvoiceNum = 0;
+  globals.CurCustNum = kAda + 1;
   sheet.txtTerms.UserType("Cash");
   Press(sheet.btnPrint, "Save changes to invoice?", Answer::Cancel);
   EXPECT_TRUE(globals.InvoiceDirty);
@@ -170,6 +171,8 @@ TEST_F(InvoiceDetailTest, PrintsTheInvoiceShownOnceItIsDecidedAbout) {
   EXPECT_TRUE(IsOpen("PrtInvoice"));
   EXPECT_EQ(globals.CurInvoiceNum, 1001);
   EXPECT_EQ(Stored("Terms"), "Cash");
+  EXPECT_EQ(Stored("CustNum"), std::to_string(kAda)) << "an invoice stays its client's";
+  EXPECT_EQ(globals.CurCustNum, kAda + 1);
   sheet.btnPayments.Press();
   EXPECT_TRUE(IsOpen("Receipts"));
 }

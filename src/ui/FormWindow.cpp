@@ -25,6 +25,7 @@ constexpr Twips kMenuHeight = 285;
 constexpr int kNoticeMargin = 16;
 constexpr int kNoticeCharacters = 40;  // enough for its title beside the frame's buttons
 constexpr int kCascade = 28;
+constexpr QSize kRoomForFrame(12, 36);
 
 }  // namespace
 
@@ -154,7 +155,16 @@ void FormWindow::TakeFirstPlace(QWidget* owner) {
     TellSize();
   }
   FollowPlace();
-  if (form_->Left() == 0 && form_->Top() == 0) move(PlaceBeside(owner && owner->isVisible() ? owner : nullptr));
+  if (form_->Left() != 0 || form_->Top() != 0) return;
+  FitOnScreen();
+  move(PlaceBeside(owner && owner->isVisible() ? owner : nullptr));
+}
+
+/// A small screen, or one with large fonts, has no room for the size a form begins with.
+void FormWindow::FitOnScreen() {
+  const QSize room = QGuiApplication::primaryScreen()->availableSize() - kRoomForFrame;
+  resize(size().boundedTo(room).expandedTo(minimumSizeHint()));
+  TellSize();
 }
 
 /// In the middle of its owner or of the screen; beside the owner's corner where that would lead off the screen.

@@ -49,6 +49,7 @@ class FormWindow : public QMainWindow {
   void FollowPlace();
   void BelongTo(QWidget* owner);
   void TakeFirstPlace(QWidget* owner);
+  void FitOnScreen();
   QPoint PlaceBeside(const QWidget* owner) const;
   QSize SizeOfForm() const;
   /// What the model counts around the inner area, in twips.

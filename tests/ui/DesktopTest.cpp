@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -67,6 +68,15 @@ TEST_F(InDesktop, AFormWithoutSizeTakesWhatItNeeds) {
   const auto* window = desktop.WindowOf(calendar);
   EXPECT_EQ(calendar.Width(), window->width() * 15 + 120);
   EXPECT_EQ(window->size(), window->sizeHint());
+}
+
+TEST_F(InDesktop, AFormIsNoLargerThanTheScreenAllows) {
+  auto& large = program.screens.Touch<CalendarForm>();
+  large.SetWidth(90'000);
+  program.screens.Show(CalendarForm::kName);
+  const QWidget& window = *desktop.WindowOf(large);
+  EXPECT_LE(window.width(), window.screen()->availableSize().width());
+  EXPECT_EQ(large.Width(), window.width() * 15 + 120);
 }
 
 TEST_F(InDesktop, TheFramesCloseButtonPressesTheExitButton) {

@@ -1,7 +1,6 @@
 #include "ui/GridView.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include <QApplication>
 #include <QHeaderView>
@@ -26,12 +25,7 @@ constexpr int kRowPadding = 9;
 constexpr int kRowsAskedFor = 10;
 constexpr int kFewestRows = 4;
 constexpr int kNarrowest = 20;
-constexpr int kRowsMeasured = 200;
 constexpr int kWidestText = 260;  // no column asks for more, in pixels
-/// Columns were measured for a smaller font; they grow by up to this where there is room.
-constexpr double kColumnGrowth = 1.3;
-/// Texts are cut short to this share of their column's width, at most, to spare the user the scrolling.
-constexpr double kTightest = 0.6;
 
 }  // namespace
 
@@ -193,88 +187,28 @@ QRect GridView::CurrentCell() const {
   return visualRect(table_->index(grid_->Row() - 1, grid_->Col()));
 }
 
-/// What the texts take and whether they are figures, told by the first rows: all of them would take too long, and they
-/// are of a kind.
 void GridView::MeasureColumns() {
   needs_.assign(static_cast<std::size_t>(grid_->Cols()), {});
   std::vector<bool> figures(needs_.size(), false);
   for (int col = 0; col < grid_->Cols(); ++col) {
     if (grid_->ColWidth(col) == 0) continue;
     const auto at = static_cast<std::size_t>(col);
-    const ColumnContent content = LookAt(col);
+    const ColumnContent content = LookAt(*grid_, col, texts_, fontMetrics());
     const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
     const int text = content.width + 2 * GridCellPainter::kPadding + 1;
-    needs_[at] = {.whole = std::min(text + helper, kWidestText), .least = content.isExact ? text + helper : kNarrowest};
+    needs_[at] = {.given = ToPixels(grid_->ColWidth(col)),
+                  .whole = std::min(text + helper, kWidestText),
+                  .least = content.isExact ? text + helper : kNarrowest};
     // What the user enters stays on the left, but for amounts: a check number may be a word as well.
     figures[at] = content.isFigures && (content.isExact || grid_->Kind() == GridKind::List);
   }
   table_->SetFigures(std::move(figures));
 }
 
-GridView::ColumnContent GridView::LookAt(int col) const {
-  const QString sample = texts_.Sample(grid_->ColDataType(col));
-  ColumnContent content{.width = fontMetrics().horizontalAdvance(sample)};
-  int filled = 0;
-  int figures = 0;
-  int exacts = 0;
-  int others = 0;
-  const int rows = std::min(grid_->Rows(), kRowsMeasured);
-  for (int row = 0; row < rows; ++row) {
-    const QString text = ToQt(grid_->DisplayText(row, col));
-    content.width = std::max(content.width, fontMetrics().horizontalAdvance(text));
-    if (row == 0 || text.isEmpty()) continue;
-    ++filled;
-    const bool isFigure = texts_.IsFigure(text);
-    const bool isExact = texts_.IsExact(text);
-    figures += isFigure;
-    exacts += isExact;
-    others += !isFigure && !isExact;
-  }
-  content.isFigures = filled > 0 && figures == filled;
-  content.isExact = filled == 0 ? !sample.isEmpty() : exacts > 0 && others == 0;
-  return content;
-}
-
-/// The width that each column was given or what its texts need, whichever is less; but amounts and dates, which are of
-/// no use when they are cut off, get what they need. Where that is too much, texts are cut short before the user has to
-/// scroll, the last ones first.
-std::vector<int> GridView::FirstWidths() const {
-  std::vector<int> widths(needs_.size(), 0);
-  int missing = -viewport()->width();
-  for (std::size_t col = 0; col < widths.size(); ++col) {
-    const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
-    if (given > 0) widths[col] = std::max(std::min(given, needs_[col].whole), needs_[col].least);
-    missing += widths[col];
-  }
-  for (std::size_t col = widths.size(); col-- > 0 && missing > 0;) {
-    const int shortest = std::max(needs_[col].least, static_cast<int>(widths[col] * kTightest));
-    const int less = std::clamp(widths[col] - shortest, 0, missing);
-    widths[col] -= less;
-    missing -= less;
-  }
-  return widths;
-}
-
-/// From those first widths on, as far as there is room, all texts get what they need; then each column gets the width
-/// that it was given; then it grows with the font. The rest is the last column's.
 void GridView::ArrangeColumns() {
   const QScopedValueRollback arranging(arranging_, true);
-  std::vector<int> widths = FirstWidths();
-  int room = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
-  const auto raise = [&](auto wanted) {
-    for (std::size_t col = 0; col < widths.size(); ++col) {
-      const int given = ToPixels(grid_->ColWidth(static_cast<int>(col)));
-      if (given == 0) continue;
-      const int more = std::clamp(wanted(given, needs_[col].whole) - widths[col], 0, std::max(0, room));
-      widths[col] += more;
-      room -= more;
-    }
-  };
-  raise([](int, int need) { return need; });
-  raise([](int given, int) { return given; });
-  raise([](int given, int) { return static_cast<int>(given * kColumnGrowth); });
-  if (const int taker = ColumnForRest(); taker >= 0) widths[static_cast<std::size_t>(taker)] += std::max(0, room);
+  const std::vector<int> widths = FitColumns(needs_, viewport()->width(), ColumnForRest());
   for (std::size_t at = 0; at < widths.size(); ++at) {
     const int col = static_cast<int>(at);
     setColumnHidden(col, grid_->ColWidth(col) == 0);

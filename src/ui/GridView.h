@@ -7,7 +7,7 @@
 
 #include "forms/Grid.h"
 #include "ui/Binding.h"
-#include "ui/CellTexts.h"
+#include "ui/ColumnWidths.h"
 
 namespace norvane::ui {
 
@@ -56,22 +56,10 @@ class GridView : public QTableView, private GridObserver {
   void Abandon();
   void Later();
   void CatchUp();
-  struct ColumnContent {
-    int width = 0;  ///< of its widest text, in pixels
-    bool isFigures = false;
-    bool isExact = false;  ///< amounts or dates
-  };
-  /// What a column's texts take, in pixels.
-  struct Needs {
-    int whole = 0;
-    int least = 0;  ///< without which they could not be read
-  };
-  ColumnContent LookAt(int col) const;
   int ColumnForRest() const;
   void Search(const QString& letters);
   int FirstShownColumn() const;
   void MeasureColumns();
-  std::vector<int> FirstWidths() const;
   void ArrangeColumns();
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);
   void FollowTopRow();
@@ -90,9 +78,9 @@ class GridView : public QTableView, private GridObserver {
   GridCellEditor* editor_;
   Binding* binding_;
   CellTexts texts_;
-  std::map<int, int> userWidths_;  ///< by column, in pixels
-  std::vector<Needs> needs_;       ///< by column
-  bool waiting_ = false;           ///< it has to catch up
+  std::map<int, int> userWidths_;   ///< by column, in pixels
+  std::vector<ColumnNeeds> needs_;  ///< by column
+  bool waiting_ = false;            ///< it has to catch up
   bool allWaiting_ = true;
   bool arranging_ = false;
   bool following_ = false;

@@ -3,8 +3,8 @@
 namespace norvane::ui {
 
 Binding* WidgetFactory::Make(Control& control, QWidget* parent) const {
-  for (auto maker = makers_.rbegin(); maker != makers_.rend(); ++maker) {
-    if (Binding* binding = (*maker)(control, parent)) return binding;
+  for (std::size_t last = makers_.size(); last-- > 0;) {
+    if (Binding* binding = makers_[last](control, parent)) return binding;
   }
   return nullptr;
 }

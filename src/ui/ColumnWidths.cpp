@@ -1,0 +1,91 @@
+#include "ui/ColumnWidths.h"
+
+#include <algorithm>
+
+#include "ui/Convert.h"
+
+namespace norvane::ui {
+namespace {
+
+constexpr int kRowsMeasured = 200;
+/// Texts are cut short to this share of their column's width, at most, to spare the user the scrolling.
+constexpr double kTightest = 0.6;
+
+class Sharing {
+ public:
+  Sharing(const std::vector<ColumnNeeds>& columns, int room) : columns_(columns), room_(room) {
+    for (const ColumnNeeds& column : columns) {
+      widths_.push_back(column.given > 0 ? std::max(std::min(column.given, column.whole), column.least) : 0);
+      room_ -= widths_.back();
+    }
+  }
+
+  void CutShort() {
+    for (std::size_t i = columns_.size(); i-- > 0 && room_ < 0;) {
+      const int shortest = std::max(columns_[i].least, static_cast<int>(widths_[i] * kTightest));
+      Give(i, -std::clamp(widths_[i] - shortest, 0, -room_));
+    }
+  }
+
+  /// Raises each column to the width wanted for it, as far as there is room.
+  template <class Wanted>
+  void Raise(Wanted wanted) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+      if (columns_[i].given > 0) Give(i, std::clamp(wanted(columns_[i]) - widths_[i], 0, std::max(0, room_)));
+    }
+  }
+
+  void GiveRest(int column) {
+    if (column >= 0) Give(static_cast<std::size_t>(column), std::max(0, room_));
+  }
+
+  std::vector<int> Widths() { return std::move(widths_); }
+
+ private:
+  void Give(std::size_t column, int pixels) {
+    widths_[column] += pixels;
+    room_ -= pixels;
+  }
+
+  const std::vector<ColumnNeeds>& columns_;
+  std::vector<int> widths_;
+  int room_;
+};
+
+}  // namespace
+
+ColumnContent LookAt(const Grid& grid, int col, const CellTexts& texts, const QFontMetrics& metrics) {
+  const QString sample = texts.Sample(grid.ColDataType(col));
+  ColumnContent content{.width = metrics.horizontalAdvance(sample)};
+  int filled = 0;
+  int figures = 0;
+  int exacts = 0;
+  int others = 0;
+  const int rows = std::min(grid.Rows(), kRowsMeasured);
+  for (int row = 0; row < rows; ++row) {
+    const QString text = ToQt(grid.DisplayText(row, col));
+    content.width = std::max(content.width, metrics.horizontalAdvance(text));
+    if (row == 0 || text.isEmpty()) continue;
+    ++filled;
+    const bool isFigure = texts.IsFigure(text);
+    const bool isExact = texts.IsExact(text);
+    figures += isFigure;
+    exacts += isExact;
+    others += !isFigure && !isExact;
+  }
+  content.isFigures = filled > 0 && figures == filled;
+  content.isExact = filled == 0 ? !sample.isEmpty() : exacts > 0 && others == 0;
+  return content;
+}
+
+std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, int rest) {
+  Sharing sharing(columns, room);
+  sharing.CutShort();
+  sharing.Raise([](const ColumnNeeds& column) { return column.whole; });
+  sharing.Raise([](const ColumnNeeds& column) { return column.given; });
+  sharing.Raise([](const ColumnNeeds& column) { return static_cast<int>(column.given * kColumnGrowth); });
+  sharing.GiveRest(rest);
+  return sharing.Widths();
+}
+
+}  // namespace norvane::ui

@@ -105,7 +105,9 @@ QRectF PageCanvas::PlaceOf(int index) const {
   const QPointF corner(Margin(viewport()->width(), columns_ * step.width() - kGap),
                        Margin(viewport()->height(), Rows() * step.height() - kGap));
   const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
-  return {corner + QPointF(index % columns_ * step.width(), index / columns_ * step.height()) - scrolled, page};
+  const int row = index / columns_;
+  const int column = index % columns_;
+  return {corner + QPointF(column * step.width(), row * step.height()) - scrolled, page};
 }
 
 /// The one the user is at as long as its row is the first in view, else the first of that row.

@@ -121,6 +121,7 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
       {"select * from tb_Client where " + std::string(1'000, '(') + "1", "-2147217900 Query is too complex."},
       {"select * from tb_Client where " + Repeated("not ", 1'000) + "1", "-2147217900 Query is too complex."},
       {"select * from tb_Client where 1" + Repeated(" and 1", 1'000), "-2147217900 Query is too complex."},
+      {"select * from tb_Client where Lname" + Repeated(" like 'a'", 60), "-2147217900 Query is too complex."},
 
       // What only can be read, and what cannot be summed.
       {"delete * from ClientBals", kNotUpdatable},

@@ -30,9 +30,14 @@ RuntimeError ErrorOf(int code, const std::string& file) {
   }
 }
 
+bool IsTooDeep(sqlite3* database) {
+  return std::string_view(sqlite3_errmsg(database)) == "parser stack overflow";
+}
+
 StatementHandle Prepare(sqlite3* database, const std::string& sql, const std::string& file) {
   sqlite3_stmt* statement = nullptr;
   const int code = sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement, nullptr);
+  if (code != SQLITE_OK && IsTooDeep(database)) throw store_error::TooComplex();
   if (code != SQLITE_OK) throw ErrorOf(sqlite3_extended_errcode(database), file);
   return StatementHandle(statement);
 }

@@ -21,7 +21,10 @@ using StatementHandle = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 /// The store's error for a code of SQLite; `file` is the name that the texts show.
 RuntimeError ErrorOf(int code, const std::string& file);
 
-/// Raises what ErrorOf gives.
+/// Whether the last statement was refused because its expressions are nested deeper than SQLite reads.
+bool IsTooDeep(sqlite3* database);
+
+/// Raises what ErrorOf gives, and that the query is too complex if it is too deep.
 StatementHandle Prepare(sqlite3* database, const std::string& sql, const std::string& file);
 /// True on a row, False at the end. Raises what ErrorOf gives.
 bool Step(sqlite3_stmt* statement, const std::string& file);

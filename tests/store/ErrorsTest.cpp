@@ -57,6 +57,7 @@ TEST_F(StoreTest, RefusesStatementsWithTheirNumbersAndTexts) {
       {"select * from tb_Client select * from tb_GL", "-2147217900 Syntax error in FROM clause."},
       {"select * from", "-2147217900 Syntax error in FROM clause."},
       {"select CustNum from tb_Client order CustNum", "-2147217900 Syntax error in ORDER BY clause."},
+      {"select CustNum from tb_Client order by True", "-2147217900 Syntax error in ORDER BY clause."},
       {"update tb_trans set ordered", "-2147217900 Syntax error in UPDATE statement."},
       {"select * from tb_Client where", MissingOperator("")},
       {"select * from tb_Client where (CustNum = 1", MissingOperator("(CustNum = 1")},

@@ -211,7 +211,7 @@ class StatementTranslator {
     typer_.AllowAggregates(grouped_);
     for (const OrderItem& item : select.orderBy) {
       CheckGrouping(*item.expression);
-      if (std::holds_alternative<Constant>(item.expression->node)) throw store_error::SyntaxErrorIn("ORDER BY clause");
+      if (IsConstant(*item.expression)) throw store_error::SyntaxErrorIn("ORDER BY clause");
       const Typed typed = typer_.Result(*item.expression);
       plain.push_back(typed.sql);
       terms.push_back(Concat({Sortable(typed.sql, typed.type), item.descending ? " DESC" : ""}));
@@ -223,6 +223,11 @@ class StatementTranslator {
       terms.push_back(Sortable(sql, scope_.TypeOf(column)));
     }
     for (std::size_t i = 0; i < terms.size(); ++i) Append({i == 0 ? " ORDER BY " : ", ", terms[i]});
+  }
+
+  /// What orders nothing; SQLite would take a whole number for the place of a column.
+  static bool IsConstant(const Expression& expression) {
+    return std::holds_alternative<Constant>(expression.node) || std::holds_alternative<Word>(expression.node);
   }
 
   static std::string Sortable(const std::string& sql, FieldType type) {

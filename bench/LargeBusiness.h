@@ -17,7 +17,7 @@ class LargeBusiness {
     sample::Order order;
     order.size = size;
     order.today = 46'000;
-    sample::WriteSample(NORVANE_DELIVERED, File(), order);
+    sample::WriteSample(NORVANES_DELIVERED, File(), order);
   }
   ~LargeBusiness() { std::filesystem::remove_all(folder_); }
   LargeBusiness(const LargeBusiness&) = delete;

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "reports/DocumentBuilder.h"
+#include "pages/DocumentBuilder.h"
 
 namespace norvane::pages {
 

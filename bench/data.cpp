@@ -11,7 +11,7 @@
 #include "core/Clock.h"
 #include "core/Conversions.h"
 #include "core/Reporter.h"
-#include "core/store/Engine.h"
+#include "store/Engine.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "support/Database.h"

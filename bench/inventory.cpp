@@ -7,11 +7,11 @@
 
 #include "EmptyDesktop.h"
 #include "Measuring.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 #include "forms/Program.h"
-#include "screens/Customer.h"
+#include "screens/clients/Customer.h"
 #include "screens/Screens.h"
-#include "screens/frmInventory.h"
+#include "screens/stock/frmInventory.h"
 #include "support/Database.h"
 
 namespace norvane {

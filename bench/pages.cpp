@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "LongList.h"
-#include "reports/Layout.h"
+#include "pages/Layout.h"
 #include "support/PinnedFontMetrics.h"
 #include "support/SampleInvoice.h"
 

@@ -5,11 +5,11 @@
 
 #include "EmptyDesktop.h"
 #include "Measuring.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 #include "data/Invoice.h"
 #include "forms/Program.h"
-#include "screens/Customer.h"
-#include "screens/Receipts.h"
+#include "screens/clients/Customer.h"
+#include "screens/sales/Receipts.h"
 #include "screens/Screens.h"
 #include "support/Database.h"
 

@@ -9,8 +9,8 @@
 
 #include "LargeBusiness.h"
 #include "Measuring.h"
-#include "core/store/Engine.h"
-#include "core/store/Recordset.h"
+#include "store/Engine.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 namespace {

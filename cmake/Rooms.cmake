@@ -1,6 +1,5 @@
-# A room is a folder below src/ and one static library. Its headers are reached as "room/Header.h", and only by
-# those that link it: every room has an include folder of its own that holds nothing but a link to the room, so an
-# arrow that points the wrong way does not compile.
+# A room is a folder below src/ and one static library. Its headers are included as "room/Header.h"; tools/check_rules
+# fails on an include of a room that isn't listed under ROOMS here.
 
 add_library(norvanes_options INTERFACE)
 target_compile_options(norvanes_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
@@ -15,15 +14,11 @@ if(NORVANES_SANITIZE)
   target_link_options(norvanes_options INTERFACE -fsanitize=${NORVANES_SANITIZE})
 endif()
 
-# norvanes_room(name FOLDER folder SOURCES ... ROOMS ... [LINKS ...])
+# norvanes_room(name SOURCES ... ROOMS ... [LINKS ...]), called in the room's folder
 function(norvanes_room name)
-  cmake_parse_arguments(ROOM "" "FOLDER" "SOURCES;ROOMS;LINKS" ${ARGN})
-  set(doors ${CMAKE_BINARY_DIR}/rooms/${name})
-  cmake_path(GET ROOM_FOLDER PARENT_PATH above)
-  file(MAKE_DIRECTORY ${doors}/${above})
-  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${ROOM_FOLDER} ${doors}/${ROOM_FOLDER} SYMBOLIC)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;ROOMS;LINKS" ${ARGN})
   add_library(norvanes_${name} STATIC ${ROOM_SOURCES})
-  target_include_directories(norvanes_${name} PUBLIC ${doors})
+  target_include_directories(norvanes_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   list(TRANSFORM ROOM_ROOMS PREPEND norvanes_)
   target_link_libraries(norvanes_${name} PUBLIC ${ROOM_ROOMS} PRIVATE norvanes_options)
   if(ROOM_LINKS)
@@ -39,7 +34,7 @@ function(norvanes_test name)
   list(TRANSFORM TEST_ROOMS PREPEND norvanes_)
   target_link_libraries(test_${name} PRIVATE ${TEST_ROOMS} ${TEST_LINKS} norvanes_options GTest::gmock GTest::gtest
                                              GTest::gtest_main)
-  target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_include_directories(test_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT 300 ENVIRONMENT "${TEST_ENVIRONMENT}")
 endfunction()
@@ -48,7 +43,7 @@ endfunction()
 # them once more on a virtual X display, where focus and activation are the ones a user meets.
 function(norvanes_window_test name)
   norvanes_test(${name} ${ARGN} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
-  set(leaks LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/foreign_leaks.txt:print_suppressions=0)
+  set(leaks LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/foreign_leaks.txt:print_suppressions=0)
   find_program(NORVANES_XVFB_RUN xvfb-run REQUIRED)
   add_test(NAME ${name}.x11 COMMAND ${NORVANES_XVFB_RUN} --auto-servernum --server-args "-screen 0 1600x1200x24"
                                     $<TARGET_FILE:test_${name}>)

@@ -1,7 +1,7 @@
 // Whatever stands in a statement, it is refused with an error of the store's or becomes one statement that SQLite
 // takes, with a parameter for each literal and a type for each column.
 
-#include "core/store/Translator.h"
+#include "store/internal/Translator.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -10,11 +10,11 @@
 #include <sstream>
 #include <string>
 
-#include "core/store/Binder.h"
-#include "core/store/Lexer.h"
-#include "core/store/Parser.h"
-#include "core/store/SqlFunctions.h"
-#include "core/store/Sqlite.h"
+#include "store/internal/Binder.h"
+#include "store/internal/Lexer.h"
+#include "store/internal/Parser.h"
+#include "store/internal/SqlFunctions.h"
+#include "store/internal/Sqlite.h"
 
 namespace norvane {
 namespace {
@@ -117,7 +117,7 @@ class Tables {
     sqlite3_open(":memory:", &opened);
     database_.reset(opened);
     std::stringstream schema;
-    schema << std::ifstream(NORVANE_SCHEMA).rdbuf();
+    schema << std::ifstream(NORVANES_SCHEMA).rdbuf();
     if (sqlite3_exec(opened, schema.str().c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) std::abort();
     AddSqlFunctions(opened);
     catalog_ = Catalog::Read(opened, "");

@@ -12,9 +12,9 @@
 #include "core/Object.h"
 #include "core/Trap.h"
 #include "core/Workspace.h"
-#include "core/store/Command.h"
-#include "core/store/Connection.h"
-#include "core/store/Recordset.h"
+#include "store/Command.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
 #include "data/SharedLists.h"
 
 #include "core/Trap.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "data/cSetup.h"
 

@@ -8,7 +8,7 @@
 #include "core/Conversions.h"
 #include "core/Globals.h"
 #include "core/Workspace.h"
-#include "core/store/Engine.h"
+#include "store/Engine.h"
 #include "forms/Desktop.h"
 #include "forms/Event.h"
 #include "forms/Focus.h"

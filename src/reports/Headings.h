@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/Object.h"
-#include "reports/DocumentBuilder.h"
+#include "pages/DocumentBuilder.h"
 
 namespace norvane {
 

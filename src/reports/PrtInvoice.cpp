@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "reports/Headings.h"

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "forms/Form.h"
-#include "reports/Preview.h"
+#include "forms/Preview.h"
 
 namespace norvane {
 

@@ -3,7 +3,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "reports/DocumentBuilder.h"
+#include "pages/DocumentBuilder.h"
 
 namespace norvane {
 

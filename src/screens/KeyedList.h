@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -5,7 +5,7 @@
 
 #include <QAbstractScrollArea>
 
-#include "reports/Preview.h"
+#include "forms/Preview.h"
 
 namespace norvane::ui {
 

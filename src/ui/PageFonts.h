@@ -2,7 +2,7 @@
 
 #include <QFont>
 
-#include "reports/FontMetrics.h"
+#include "pages/FontMetrics.h"
 
 namespace norvane::ui {
 

@@ -6,7 +6,7 @@
 #include <QPageLayout>
 #include <QPointF>
 
-#include "reports/Pages.h"
+#include "pages/Pages.h"
 
 class QPagedPaintDevice;
 class QPainter;

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "reports/Preview.h"
+#include "forms/Preview.h"
 
 namespace norvane::ui {
 namespace {

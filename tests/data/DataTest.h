@@ -10,8 +10,8 @@
 #include "core/Conversions.h"
 #include "core/Reporter.h"
 #include "core/Workspace.h"
-#include "core/store/Engine.h"
-#include "core/store/Recordset.h"
+#include "store/Engine.h"
+#include "store/Recordset.h"
 #include "support/Database.h"
 
 namespace norvane::test {

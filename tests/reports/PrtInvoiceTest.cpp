@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "Golden.h"
+#include "support/Golden.h"
 #include "ReportOffice.h"
 #include "reports/PrtInvoice.h"
 

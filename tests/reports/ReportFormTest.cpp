@@ -1,5 +1,5 @@
 #include "ReportOffice.h"
-#include "reports/DatePair.h"
+#include "forms/DatePair.h"
 #include "reports/Headings.h"
 #include "reports/ReportForm.h"
 #include "reports/ReportTable.h"

@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "PagesText.h"
+#include "support/PagesText.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "data/cSetup.h"
 #include "forms/Program.h"
-#include "reports/Preview.h"
+#include "forms/Preview.h"
 #include "reports/RegisterReports.h"
 #include "support/Database.h"
 #include "support/PinnedFontMetrics.h"

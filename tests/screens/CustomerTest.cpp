@@ -1,9 +1,9 @@
 #include <filesystem>
 
 #include "Office.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 #include "data/Client.h"
-#include "screens/Profile.h"
+#include "screens/clients/Profile.h"
 
 namespace norvane::test {
 namespace {

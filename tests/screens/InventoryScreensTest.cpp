@@ -1,8 +1,8 @@
 #include "Office.h"
-#include "core/store/Recordset.h"
+#include "store/Recordset.h"
 #include "data/Inventory.h"
-#include "screens/InventoryCats.h"
-#include "screens/frmInventory.h"
+#include "screens/stock/InventoryCats.h"
+#include "screens/stock/frmInventory.h"
 
 namespace norvane::test {
 namespace {

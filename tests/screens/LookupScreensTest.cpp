@@ -1,9 +1,9 @@
 #include "Office.h"
-#include "core/store/Recordset.h"
-#include "screens/ExpenseTypes.h"
-#include "screens/PaymentCategories.h"
-#include "screens/ShippingTypes.h"
-#include "screens/frmSetup.h"
+#include "store/Recordset.h"
+#include "screens/setup/ExpenseTypes.h"
+#include "screens/setup/PaymentCategories.h"
+#include "screens/setup/ShippingTypes.h"
+#include "screens/setup/frmSetup.h"
 
 namespace norvane::test {
 namespace {

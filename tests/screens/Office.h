@@ -7,7 +7,7 @@
 #include <string>
 
 #include "forms/Program.h"
-#include "screens/Customer.h"
+#include "screens/clients/Customer.h"
 #include "screens/Screens.h"
 #include "support/Database.h"
 #include "support/Gestures.h"

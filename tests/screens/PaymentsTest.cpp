@@ -1,7 +1,7 @@
 #include "Office.h"
-#include "screens/CustSearch.h"
-#include "screens/PaymentDate.h"
-#include "screens/Receipts.h"
+#include "screens/clients/CustSearch.h"
+#include "screens/sales/PaymentDate.h"
+#include "screens/sales/Receipts.h"
 
 namespace norvane::test {
 namespace {

@@ -1,5 +1,5 @@
 #include "Office.h"
-#include "screens/Profile.h"
+#include "screens/clients/Profile.h"
 
 namespace norvane::test {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "Office.h"
 #include "data/Invoice.h"
-#include "screens/CustInvoices.h"
-#include "screens/InvSearch.h"
-#include "screens/InvoiceDetail.h"
+#include "screens/sales/CustInvoices.h"
+#include "screens/stock/InvSearch.h"
+#include "screens/sales/InvoiceDetail.h"
 
 namespace norvane::test {
 

@@ -2,7 +2,7 @@
 #include <sstream>
 
 #include "Office.h"
-#include "screens/About.h"
+#include "screens/start/About.h"
 
 namespace norvane::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
-#include "core/store/Sqlite.h"
+#include "store/internal/Sqlite.h"
 #include "store/StoreTest.h"
 
 namespace norvane {

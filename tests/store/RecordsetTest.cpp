@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "core/store/Command.h"
+#include "store/Command.h"
 #include "store/StoreTest.h"
 
 namespace norvane {

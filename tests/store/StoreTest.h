@@ -6,8 +6,8 @@
 #include <string>
 
 #include "core/RuntimeError.h"
-#include "core/store/Engine.h"
-#include "core/store/Recordset.h"
+#include "store/Engine.h"
+#include "store/Recordset.h"
 #include "support/Database.h"
 
 namespace norvane {

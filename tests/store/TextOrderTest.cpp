@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 
-#include "core/store/TextFolding.h"
+#include "store/internal/TextFolding.h"
 #include "store/StoreTest.h"
 
 namespace norvane {

@@ -31,7 +31,7 @@ void Run(sqlite3* connection, const std::string& statements) {
 }
 
 std::string Schema() {
-  std::ifstream file(NORVANE_SCHEMA);
+  std::ifstream file(NORVANES_SCHEMA);
   std::stringstream text;
   text << file.rdbuf();
   if (!file || text.str().empty()) throw std::runtime_error("no schema");

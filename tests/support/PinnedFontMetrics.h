@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "reports/FontMetrics.h"
-#include "reports/Utf8.h"
+#include "pages/FontMetrics.h"
+#include "core/Utf8.h"
 
 namespace norvane::pages {
 

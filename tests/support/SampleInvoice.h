@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "reports/DocumentBuilder.h"
+#include "pages/DocumentBuilder.h"
 
 namespace norvane::pages {
 

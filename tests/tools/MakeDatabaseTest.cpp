@@ -21,9 +21,9 @@ class MakeDatabaseTest : public testing::Test {
   fs::path Target() const { return folder_ / "norvane.mdb"; }
 
   /// True if the tool says that it went well.
-  bool Make(const std::string& option = "", const std::string& schema = NORVANE_SCHEMA) const {
+  bool Make(const std::string& option = "", const std::string& schema = NORVANES_SCHEMA) const {
     const std::string command =
-        std::string(NORVANE_MAKE_DATABASE) + " " + option + " " + schema + " " + Target().string() + " 2>/dev/null";
+        std::string(NORVANES_MAKE_DATABASE) + " " + option + " " + schema + " " + Target().string() + " 2>/dev/null";
     return std::system(command.c_str()) == 0;
   }
 

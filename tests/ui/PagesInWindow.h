@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-#include "reports/Preview.h"
+#include "forms/Preview.h"
 #include "ui/PreviewWidget.h"
 #include "ui/WindowTest.h"
 

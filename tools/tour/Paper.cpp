@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "reports/Preview.h"
+#include "forms/Preview.h"
 #include "ui/PagePdf.h"
 
 namespace norvane::tour {

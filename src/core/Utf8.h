@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace norvane {
+
+struct Character {
+  char32_t code = 0;
+  std::size_t length = 1;  ///< bytes
+};
+
+namespace internal {
+Character LongCharacterAt(std::string_view text, std::size_t place);
+}  // namespace internal
+
+/// The character at a place below the text's end. A byte that begins no well-formed character stands for itself as the
+/// replacement character, so that damaged text never stops a report.
+inline Character CharacterAt(std::string_view text, std::size_t place) {
+  const auto first = static_cast<unsigned char>(text[place]);
+  return first < 0x80 ? Character{first, 1} : internal::LongCharacterAt(text, place);
+}
+
+/// What the eye takes for one character: with the marks that are set over it and what is joined to it. In bytes.
+std::size_t ClusterLength(std::string_view text, std::size_t place);
+
+}  // namespace norvane

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "forms/Control.h"
+#include "pages/DocumentBuilder.h"
+#include "pages/FontMetrics.h"
+#include "pages/Pages.h"
+
+namespace norvane {
+
+/// How large the pages are shown: at a scale in percent, or fitted into the window in one of the ways of kZoomChoices,
+/// which stand in its order.
+enum class ZoomChoice { Percent, WholePage, PageWidth, TwoPages, Thumbnail };
+
+// The fixed words of previewing and printing.
+inline constexpr const char* kZoomChoices = "Whole &Page|Page &Width|&Two Pages|Thumb&nail";
+inline constexpr const char* kPrintingCaption = "Printing...";
+inline constexpr const char* kPrintingCancel = "Cancel";
+inline constexpr const char* kPrintingDevice = "on the %s on %s";  ///< document, printer
+inline constexpr const char* kPrintingPage = "Now printing Page %d of";
+
+/// The control in which a report builds its document, and which shows and prints the pages.
+///
+/// It holds what was recorded and how it is looked at. Whoever draws it gives it the metrics of the fonts it draws
+/// with, asks for the pages, and is told Aspect::Pages when there are new ones, Aspect::State when they are to be shown
+/// otherwise, and Aspect::Caption when the title has changed.
+class Preview : public Control, public pages::DocumentBuilder {
+ public:
+  using Control::Control;
+  bool TakesFocus() const override { return true; }
+
+  /// The document's name for printers and files: what was set, else the caption of the window.
+  const std::string& Title() const;
+  void SetTitle(std::string title);
+
+  /// The metrics aren't owned; whoever gave them takes them away again, with nothing, before they go.
+  void SetFontMetrics(const pages::FontMetrics* metrics);
+  /// The document as it stands now, laid out when it is first asked for; none before the first start and as long as
+  /// there are no metrics. The reference stays good; what it refers to is made anew by the first question about pages
+  /// after something was recorded.
+  const pages::Pages& Pages() const;
+  int PageCount() const;
+  /// An error has ended the building of the document: what there is of it is shown.
+  void ShowSoFar();
+
+  /// The page looked at, from 1; 0 if there is none. A new document is shown from its first page.
+  int CurrentPage() const;
+  /// Goes to the nearest page that exists.
+  void SetCurrentPage(int page);
+
+  /// The scale in percent while the choice is Percent.
+  double Zoom() const { return zoom_; }
+  ZoomChoice Choice() const { return choice_; }
+  /// Shows the pages at this scale, kept within the two limits.
+  void SetZoom(double percent);
+  void SetChoice(ZoomChoice choice);
+  static constexpr double kSmallestZoom = 10.0;
+  static constexpr double kLargestZoom = 400.0;
+
+ private:
+  void Ended() override;
+
+  std::string title_;
+  double zoom_ = 100.0;
+  ZoomChoice choice_ = ZoomChoice::Percent;
+  int currentPage_ = 1;
+  const pages::FontMetrics* metrics_ = nullptr;
+  mutable pages::Pages pages_;
+  mutable std::optional<std::uint64_t> laidOut_;  ///< the revision that `pages_` shows
+};
+
+}  // namespace norvane

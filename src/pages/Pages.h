@@ -1,0 +1,65 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "pages/Fonts.h"
+
+namespace norvane::pages {
+
+// All places and sizes are in points (72 to the inch), from the top left corner of a Letter page, downwards.
+inline constexpr double kPointsPerInch = 72.0;
+inline constexpr double kPageWidth = 8.5 * kPointsPerInch;
+inline constexpr double kPageHeight = 11.0 * kPointsPerInch;
+
+/// How a page lies on a sheet of paper: its left edge, which may be beyond the paper's, and by how much it is shrunk.
+struct Placing {
+  double left = 0;
+  double scale = 1;
+};
+
+/// Pages stand centred across, with their tops equal, and keep their size on Letter, on A4 (whose edges cut a little of
+/// the empty margins) and on anything larger; on smaller paper they shrink, so that nothing is lost.
+inline Placing PlaceOn(double paperWidth, double paperHeight) {
+  constexpr double kWidthOfA4 = 595;
+  const double across = paperWidth < kWidthOfA4 ? paperWidth / kPageWidth : 1.0;
+  const double scale = std::min({1.0, across, paperHeight / kPageHeight});
+  return {(paperWidth - kPageWidth * scale) / 2, scale};
+}
+
+/// One run of text on one line. Alignment is resolved: it is drawn from `x` on, without kerning, wrapping or clipping.
+struct TextRun {
+  float x = 0;  ///< left edge
+  float baseline = 0;
+  std::uint32_t begin = 0;   ///< of its text within the page's
+  std::uint32_t length = 0;  ///< in bytes of UTF-8; never 0
+  std::uint16_t font = 0;    ///< index into `Pages::fonts`
+};
+
+/// A horizontal or vertical rule, centred on the places given.
+struct Line {
+  float x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  float width = 0;
+  float grey = 0;  ///< 0 is black, 1 would be white
+};
+
+struct Page {
+  std::vector<TextRun> runs;  ///< in reading order: header, body, footer
+  std::vector<Line> lines;
+  std::string text;  ///< of all runs, one behind the other
+
+  std::string_view TextOf(const TextRun& run) const { return std::string_view(text).substr(run.begin, run.length); }
+};
+
+/// A document laid out: what stands where, ready to be painted on any device.
+struct Pages {
+  std::vector<Font> fonts;  ///< each font that occurs, once
+  std::vector<Page> pages;
+
+  const Font& FontOf(const TextRun& run) const { return fonts[run.font]; }
+};
+
+}  // namespace norvane::pages

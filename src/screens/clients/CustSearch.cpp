@@ -1,0 +1,50 @@
+#include "screens/clients/CustSearch.h"
+
+#include "store/Recordset.h"
+#include "screens/sales/Receipts.h"
+
+namespace norvane {
+
+CustSearch::CustSearch(Program& host)
+    : Form(host, kName, {.caption = "Select Client", .width = 4200, .height = 5400, .goesWithOwner = true}) {
+  SetLayout(layout::Column({layout::Stretch(CustList), layout::Strip({layout::Space(), btnOK, btnCancel})}));
+  SetExitButton(btnCancel);
+  CustList.DblClick = [this] { btnOK_Click(); };
+  CustList.KeyDown = [this](int keyCode) {
+    if (keyCode == static_cast<int>(Key::Enter)) btnOK_Click();
+  };
+  btnOK.Click = [this] { btnOK_Click(); };
+  btnCancel.Click = [this] { Unload(); };
+}
+
+void CustSearch::Form_Load() {
+  Trapped("CustSearch.Form_Load -", [&] {
+    CustList.Clear();
+    CustList.SetCols(2);
+    CustList.SetFormatString("Name|custnum");
+    CustList.SetColWidth(0, 2000);
+    CustList.SetColWidth(1, 0);
+    CustList.SetTopRow(1);
+    Recordset& clients = *globals.rsClientPick;
+    for (clients.MoveFirst(); !clients.Eof(); clients.MoveNext()) {
+      CustList.AddItem(clients.Text("lname") + ", " + clients.Text("fname") + "\t" + clients.Text("CustNum"));
+    }
+  });
+}
+
+// Reports under the other button's label.
+void CustSearch::btnOK_Click() {
+  Trapped("CustSearch.btnCancel_Click -", [&] {
+    const int row = CustList.Row();
+    if (row == 0) return;
+    globals.CurCustNum = convert.ToLong(CustList.Cell(row, 1));
+    globals.CurClientName = CustList.Cell(row, 0);
+    Grid& payments = screens.Touch<Receipts>().PaymentList;
+    payments.SetCell(globals.RowSelected, Receipts::kCustNum, convert.ToText(globals.CurCustNum));
+    payments.SetCell(globals.RowSelected, Receipts::kClient, globals.CurClientName);
+    globals.PayClientSet = true;
+    Unload();
+  });
+}
+
+}  // namespace norvane

@@ -1,0 +1,179 @@
+// The lines of an invoice: loading, editing and storing them, and the stock and back orders that follow.
+
+#include "store/Recordset.h"
+#include "data/Inventory.h"
+#include "data/Invoice.h"
+#include "screens/stock/InvSearch.h"
+#include "screens/sales/InvoiceDetail.h"
+
+namespace norvane {
+
+void InvoiceDetail::WireLines() {
+  ItemList.GotFocus = [this] { ItemList_GotFocus(); };
+  ItemList.BeforeEdit = [this](int row, int col) { ItemList_BeforeEdit(row, col); };
+  ItemList.AfterEdit = [this](int row, int col) { ItemList_AfterEdit(row, col); };
+  ItemList.LeaveCell = [this] { ItemList_LeaveCell(); };
+  btnNewItem.Click = [this] { btnNewItem_Click(); };
+  btnRemove.Click = [this] { btnRemove_Click(); };
+}
+
+// Loading.
+
+void InvoiceDetail::SetUpGrid() {
+  ItemList.Clear();
+  ItemList.SetCols(8);
+  ItemList.SetFormatString("^Sel|TransNum|Inventory#|>Quantity|>Charge|Description|>Total|>Back Order");
+  const Twips widths[] = {400, 0, 1000, 800, 1000, 3000, 1000, 800};
+  for (int col = 0; col < 8; ++col) ItemList.SetColWidth(col, widths[col]);
+  ItemList.SetRows(1);
+}
+
+void InvoiceDetail::ListItems() {
+  LineRow = 1;
+  for (; !rsItems->Eof(); rsItems->MoveNext()) {
+    const Value amount = rsItems->Field("amount");
+    const Value quantity = rsItems->Field("Qty");
+    globals.UnitCharge = convert.ToCurrency(Divide(amount, quantity, convert));
+    BackOrderText = rsItems->Text("BackOrder");
+    if (BackOrderText == "0") BackOrderText.clear();
+    ItemList.AddItem("\t" + rsItems->Text("TransNum") + "\t" + rsItems->Text("ItemNum") + "\t" +
+                         convert.ToText(quantity) + "\t" + convert.CurrencyText(globals.UnitCharge) + "\t" +
+                         rsItems->Text("Notes") + "\t" + convert.CurrencyText(amount) + "\t" + BackOrderText,
+                     LineRow);
+    ++LineRow;
+  }
+  ItemList.SetRows(rsItems->RecordCount() + 1);
+}
+
+// Editing.
+
+void InvoiceDetail::ItemList_GotFocus() {
+  Trapped("InvoiceDetail.ItemList_GotFocus -", [&] {
+    ItemList.SetRow(ItemList.Rows() - 1);
+    ItemList.SetCol(kQuantity);
+  });
+}
+
+void InvoiceDetail::ItemList_BeforeEdit(int row, int col) {
+  Trapped("InvoiceDetail.ItemList_BeforeEdit -", [&] {
+    if (col != kQuantity) return;
+    const std::string quantity = ItemList.Cell(row, kQuantity);
+    globals.BeforeQty = quantity.empty() ? 0 : convert.ToLong(quantity);
+  });
+}
+
+// Other columns wait for nothing: they are stored along with a quantity or back order of their row, or not at all.
+void InvoiceDetail::ItemList_AfterEdit(int row, int col) {
+  Trapped("InvoiceDetail.ItemList_AfterEdit -", [&] {
+    rows_.TakeCurrentRow();
+    if (col == kQuantity && convert.ToDouble(ItemList.Cell(row, kQuantity)) != globals.BeforeQty) {
+      ChangeQuantity(row);
+      globals.RowChanged = true;
+    }
+    if (col == kBackOrder) globals.RowChanged = true;
+    rows_.SetOldRowStatus();
+  });
+}
+
+// The stock moves now. A line becomes back-ordered by the part of the change that the stock didn't cover.
+void InvoiceDetail::ChangeQuantity(int row) {
+  globals.oInventory->OpenCn();
+  globals.EditQty = convert.ToLong(ItemList.Cell(row, kQuantity));
+  const std::int32_t itemNum = convert.ToLong(ItemList.Cell(row, kItemNum));
+  globals.QtyLeft = globals.oInventory->QtyInStock(itemNum, globals.BeforeQty, globals.EditQty);
+  globals.oInventory->CloseCn();
+  if (!IsShort()) return;
+  const double change = static_cast<double>(globals.EditQty) - globals.BeforeQty;
+  const double stockBefore = change + globals.QtyLeft;
+  TellBackOrder(row);
+  double backOrder = Val(ItemList.Cell(row, kBackOrder)) - change;
+  if (stockBefore > 0) backOrder += stockBefore;
+  ItemList.SetCell(row, kBackOrder, convert.ToText(backOrder));
+}
+
+bool InvoiceDetail::IsShort() const {
+  return globals.QtyLeft > Inventory::kNotCounted && globals.QtyLeft < 0;
+}
+
+void InvoiceDetail::TellBackOrder(std::int32_t row) {
+  desktop.Say("No " + ItemList.Cell(row, kDescription) + " in Inventory.  Is marked as Back Ordered in Invoice!");
+}
+
+void InvoiceDetail::ItemList_LeaveCell() {
+  Trapped("InvoiceDetail.ItemList_LeaveCell -", [&] {
+    rows_.LeaveCell();
+    const std::int32_t row = rows_.OldRow;
+    if (row > 0 && !ItemList.Cell(row, kItemNum).empty() && !ItemList.Cell(row, kTransNum).empty()) {
+      const double total =
+          convert.ToDouble(ItemList.Cell(row, kCharge)) * convert.ToDouble(ItemList.Cell(row, kQuantity));
+      ItemList.SetCell(row, kTotal, convert.CurrencyText(total));
+    }
+    if (!SkipTotal) GetInvoiceTotal();
+    SkipTotal = false;
+  });
+}
+
+// Storing.
+
+// Whatever the row holds is stored; there is no test whether it is complete.
+void InvoiceDetail::SaveRow() {
+  Trapped("InvoiceDetail.SaveRow -", [&] {
+    const std::int32_t row = rows_.RowLeft();
+    const std::string key = ItemList.Cell(row, kTransNum);
+    const bool isNew = key.empty() || row == 0;
+    globals.oInvoice->OpenCn();
+    StoreLine(row, isNew ? 0 : convert.ToLong(key));
+    rows_.SetOldRowStatus();
+    if (rows_.OldRow != rows_.NewRow) rows_.SetNewRowStatus();
+    globals.oInvoice->CloseCn();
+    // The first line takes the head along.
+    if (row == 1) btnSave_Click();
+    globals.RowChanged = false;
+  });
+}
+
+void InvoiceDetail::StoreLine(std::int32_t row, std::int32_t transNum) {
+  Invoice& line = *globals.oInvoice;
+  const auto cell = [&](ItemColumn column) { return ItemList.Cell(row, column); };
+  line.TransNum = transNum;
+  line.InvoiceNum = NumberShown();
+  line.ItemNum = convert.ToLong(cell(kItemNum));
+  line.Qty = convert.ToLong(cell(kQuantity));
+  line.TransNotes = cell(kDescription);
+  line.charge = convert.ToCurrency(cell(kTotal));
+  line.BackOrder = cell(kBackOrder).empty() ? 0 : convert.ToLong(cell(kBackOrder));
+  line.SaveTransAccess();
+  globals.ItemsChanged = true;
+  ItemList.SetCell(row, kTransNum, convert.ToText(line.TransNum));
+}
+
+// Buttons.
+
+void InvoiceDetail::btnNewItem_Click() {
+  Trapped("InvoiceDetail.btnNewItem_Click -", [&] {
+    if (NewInvoice) {
+      // No line exists without its head.
+      btnSave_Click();
+      NewInvoice = false;
+    }
+    globals.CurCatNum = 1;
+    screens.Show(InvSearch::kName, {.owner = this});
+  });
+}
+
+// The units that the line took stay out of stock.
+void InvoiceDetail::btnRemove_Click() {
+  Trapped("InvoiceDetail.btnRemove_Click -", [&] {
+    const int row = ItemList.Row();
+    if (row > 0 && !ItemList.Cell(row, kTransNum).empty()) {
+      globals.oInvoice->OpenCn();
+      globals.oInvoice->DeleteInvoiceItem(convert.ToLong(ItemList.Cell(row, kTransNum)));
+      globals.oInvoice->CloseCn();
+      rows_.RemoveRow(row);
+    }
+    ItemList.SetCol(kTransNum);
+    GetInvoiceTotal();
+  });
+}
+
+}  // namespace norvane

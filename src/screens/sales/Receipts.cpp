@@ -1,0 +1,315 @@
+#include "screens/sales/Receipts.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "data/Client.h"
+#include "data/Invoice.h"
+#include "screens/sales/CustInvoices.h"
+#include "screens/clients/CustSearch.h"
+#include "screens/KeyedList.h"
+#include "screens/Opening.h"
+#include "screens/sales/PaymentDate.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr const char* kSelectedClient = CustInvoices::kSelectedClient;
+constexpr const char* kAllClients = CustInvoices::kAllClients;
+constexpr const char* kSection = "RECEIPTS";
+/// CurCustNum while the payments of all clients are listed.
+constexpr std::int32_t kEveryClient = -1;
+
+}  // namespace
+
+// AfterRowEdit leaves the row entered unmarked here, and the flag of a pending edit is cleared whatever becomes of it.
+Receipts::Receipts(Program& host)
+    : Form(host, kName, {.caption = "Payments Received"}),
+      rows_(PaymentList, globals, desktop,
+            {.labels = {.setOldRowStatus = "Receipts.SetOldRowStatus -",
+                        .setNewRowStatus = "Receipts.SetNewRowStatus -",
+                        .afterRowEdit = "Receipts.PaymentList_AfterRowEdit -"},
+             .testColumns = {kAmount},
+             .marksRowEntered = false,
+             .scrollsBack = true,
+             .scrollsToNewRow = false},
+            [this] { SaveRow(); }) {
+  using namespace layout;
+  PaymentList.SetTop(900);
+  for (Button* button : {&Command2, &btnPrint}) button->SetWidth(480);
+  SetLayout(Column({Strip({Field("View Payments Received from:", CmbReceipt),
+                           Field("Since:", Row({txtSinceDate, DTPicker1})), btnGo, Space(), btnPrint, Command2}),
+                    Stretch(Row({Column({btnNew, btnDelete, Space()}), Stretch(PaymentList)}))}));
+  SetExitButton(Command2);
+  DTPicker1.Change = [this] { txtSinceDate.SetText(MaskedDateText(DTPicker1.Value())); };
+  btnGo.Click = [this] { btnGo_Click(); };
+  PaymentList.Click = [this] { PaymentList_Click(); };
+  PaymentList.GotFocus = [this] { PaymentList_GotFocus(); };
+  PaymentList.AfterEdit = [this](int row, int col) { PaymentList_AfterEdit(row, col); };
+  PaymentList.CellButtonClick = [this](int row, int col) { PaymentList_CellButtonClick(row, col); };
+  btnNew.Click = [this] { btnNew_Click(); };
+  btnDelete.Click = [this] { btnDelete_Click(); };
+  btnPrint.Click = [this] { btnPrint_Click(); };
+  btnPrint.SetEnabled(screens.Has("PrtReceipt"));
+  Command2.Click = [this] { Unload(); };
+}
+
+// Loading.
+
+void Receipts::Form_Load() {
+  PaymentList.SetFocus();
+  Trapped("Receipts.Form_Load -", [&] {
+    screens.Show("GettingReceipts");
+    ReadGeometry(kSection);
+    DTPicker1.SetValue(Date::FromYearMonthDay((desktop.Today() - 365).Year(), 1, 1));
+    txtSinceDate.SetText(MaskedDateText(DTPicker1.Value()));
+    SinceDate = DTPicker1.Value();
+    for (const char* item : {kSelectedClient, kAllClients}) CmbReceipt.AddItem(item);
+    CmbReceipt.SetText(globals.CurCustNum == kEveryClient ? kAllClients : kSelectedClient);
+    SetPayments();
+    screens.Unload("GettingReceipts");
+  });
+}
+
+void Receipts::SetPayments() {
+  Trapped("Receipts.SetPayments -", [&] {
+    ReadPayments();
+    SetUpGrid();
+    ReadCards();
+    PaymentList.SetColComboList(kType, TypeItems());
+    ListPayments();
+  });
+}
+
+void Receipts::ReadPayments() {
+  Invoice& payments = *globals.oInvoice;
+  payments.OpenCn();
+  if (std::exchange(DeletePending, false)) payments.DeletePayment(SelPayNum);
+  rsPayments = payments.AllPayments(SinceDate, globals.CurCustNum);
+  payments.CloseCn();
+}
+
+void Receipts::SetUpGrid() {
+  PaymentList.Clear();
+  PaymentList.SetCols(9);
+  PaymentList.SetRows(2);
+  PaymentList.SetFormatString("^|TransNum|CustNum|Date|Type|Card/Check#|Client|>Amount|Notes");
+  const Twips widths[] = {300, 0, 0, 1000, 1300, 1700, 1500, 1000, 1400};
+  for (int col = 0; col < 9; ++col) PaymentList.SetColWidth(col, widths[col]);
+  for (int col : {kClient, kDate}) PaymentList.SetColComboList(col, "...");
+  PaymentList.SetColDataType(kDate, ColumnType::Date);
+  PaymentList.SetColDataType(kAmount, ColumnType::Currency);
+}
+
+// The second card is offered under the first one's number.
+void Receipts::ReadCards() {
+  Client& client = *globals.oClient;
+  client.OpenCn();
+  client.GetClient(globals.CurCustNum);
+  CardType1 = client.PaymentType1;
+  CardType2 = client.PaymentType2;
+  CardNo1 = client.CardNum1;
+  CardNo2 = client.CardNum1;
+  client.CloseCn();
+}
+
+std::string Receipts::TypeItems() const {
+  std::string items;
+  if (!CardType1.empty()) items += "#1;" + CardType1 + " #" + CardNo1 + "|";
+  if (!CardType2.empty()) items += "#2;" + CardType2 + " #" + CardNo2 + "|";
+  return WithoutLastSeparator(items + KeyedItems(*globals.rsPaymentTypes, "Type"));
+}
+
+void Receipts::ListPayments() {
+  PayRow = 1;
+  for (; !rsPayments->Eof(); rsPayments->MoveNext()) PaymentList.AddItem(CellsOf(*rsPayments), PayRow++);
+  if (PayRow > 6) PaymentList.SetTopRow(PayRow - 5);
+  if (PayRow > 1) PaymentList.SetRow(PayRow);
+  rows_.SetMarker(PayRow, "*");
+}
+
+std::string Receipts::CellsOf(const Recordset& payment) const {
+  return "\t" + payment.Text("TransNum") + "\t" + payment.Text("CustNum") + "\t" +
+         convert.ToText(payment.Field("Date")) + "\t" + payment.Text("Type") + "\t" + payment.Text("Checknum") + "\t" +
+         payment.Text("Fullname") + "\t" + convert.CurrencyText(payment.Field("amount")) + "\t" + payment.Text("Notes");
+}
+
+// Which payments.
+
+bool Receipts::ShowsAllClients() const {
+  return CmbReceipt.Text() == kAllClients;
+}
+
+// The text counts, not the picker.
+void Receipts::btnGo_Click() {
+  Trapped("Receipts.btnGo_Click -", [&] {
+    SinceDate = convert.ToDateFromMask(txtSinceDate.Text());
+    if (ShowsAllClients()) {
+      globals.CurCustNum = kEveryClient;
+    } else {
+      TakeClientOfRow();
+    }
+    SetPayments();
+  });
+}
+
+// The empty row at the end has no client: the one that is selected stays, if any is.
+void Receipts::TakeClientOfRow() {
+  const std::string custNum = PaymentList.Cell(PaymentList.Row(), kCustNum);
+  if (custNum.empty() && globals.CurCustNum != kEveryClient) return;
+  globals.CurCustNum = convert.ToLong(custNum);
+}
+
+// Editing.
+
+void Receipts::PaymentList_Click() {
+  Trapped("Receipts.PaymentList_Click -", [&] {
+    const int row = PaymentList.Row();
+    const std::string custNum = PaymentList.Cell(row, kCustNum);
+    if (row != 0 && !custNum.empty()) {
+      globals.CurCustNum = convert.ToLong(custNum);
+      globals.CurClientName = PaymentList.Cell(row, kClient);
+    }
+    SelPayNum = ValLong(PaymentList.Cell(row, kTransNum));
+    const std::string date = PaymentList.Cell(row, kDate);
+    globals.ReceiptDate = convert.IsDate(date) ? convert.ToDate(date) : desktop.Today();
+  });
+}
+
+void Receipts::PaymentList_GotFocus() {
+  Trapped("Receipts.PaymentList_GotFocus -", [&] {
+    PaymentList.SetCol(kDate);
+    AfterPick(globals.PayDateSet, kType);
+    AfterPick(globals.PayClientSet, kAmount);
+  });
+}
+
+// A picker wrote into the row: the cursor goes on behind that cell, and the row is treated as edited.
+void Receipts::AfterPick(bool& picked, int col) {
+  if (!picked) return;
+  PaymentList.SetCol(col);
+  PaymentList_AfterEdit(PaymentList.Row(), PaymentList.Col());
+  picked = false;
+}
+
+bool Receipts::AreFilled(int row, std::initializer_list<int> cols) const {
+  return std::none_of(cols.begin(), cols.end(), [&](int col) { return PaymentList.Cell(row, col).empty(); });
+}
+
+// A row that is complete counts as started, and a new empty one stands at the end.
+void Receipts::PaymentList_AfterEdit(int row, int col) {
+  Trapped("Receipts.PaymentList_AfterEdit -", [&] {
+    if (!ShowsAllClients()) {
+      PaymentList.SetCell(row, kCustNum, convert.ToText(globals.CurCustNum));
+      PaymentList.SetCell(row, kClient, globals.CurClientName);
+    }
+    if (AreFilled(row, {kDate, kType, kClient, kAmount})) {
+      PaymentList.SetCell(row, kAmount, convert.CurrencyText(std::string_view(PaymentList.Cell(row, kAmount))));
+      if (PaymentList.Cell(row, kTransNum).empty()) {
+        PaymentList.SetRows(PaymentList.Rows() + 1);
+        PaymentList.SetCell(row, kTransNum, "0");
+      }
+    }
+    if (col == kType) FillCardNumber(row);
+    rows_.MarkChanged();
+    rows_.SetOldRowStatus();
+  });
+}
+
+void Receipts::FillCardNumber(int row) {
+  const std::string key = PaymentList.Cell(row, kType);
+  if (key == "1") PaymentList.SetCell(row, kCheckNum, CardNo1);
+  if (key == "2") PaymentList.SetCell(row, kCheckNum, CardNo2);
+}
+
+void Receipts::PaymentList_CellButtonClick(int row, int col) {
+  Trapped("Receipts.PaymentList_CellButtonClick -", [&] {
+    if (col == kClient) {
+      globals.RowSelected = row;
+      screens.Show(CustSearch::kName, {.owner = this});
+      screens.Touch<CustSearch>().CustList.SetFocus();
+    }
+    if (PaymentList.Col() == kDate) {
+      globals.PayDateCaller = PaymentDate::kForReceipts;
+      screens.Show(PaymentDate::kName, {.owner = this, .modal = true});
+    }
+  });
+}
+
+// The flag goes first: a row that can't be stored is not tried again.
+void Receipts::SaveRow() {
+  Trapped("Receipts.SaveRow -", [&] {
+    globals.RowChanged = false;
+    const std::int32_t row = rows_.RowLeft();
+    if (row > 0 && AreFilled(row, {kCustNum, kDate, kAmount})) StoreRow(row);
+  });
+}
+
+// All is read before the connection opens, so that what can't be read leaves none open.
+void Receipts::StoreRow(std::int32_t row) {
+  const std::string key = PaymentList.Cell(row, kTransNum);
+  Invoice& payment = *globals.oInvoice;
+  payment.PayNum = key.empty() ? 0 : convert.ToLong(key);
+  payment.CustNum = convert.ToLong(PaymentList.Cell(row, kCustNum));
+  payment.Paytype = PaymentList.DisplayText(row, kType);
+  payment.Checknum = PaymentList.Cell(row, kCheckNum);
+  payment.PayDate = convert.ToDate(PaymentList.Cell(row, kDate));
+  payment.Payment = convert.ToCurrency(convert.CurrencyText(std::string_view(PaymentList.Cell(row, kAmount))));
+  payment.PayNotes = PaymentList.Cell(row, kNotes);
+  payment.OpenCn();
+  payment.SavePayment();
+  PaymentList.SetCell(row, kTransNum, convert.ToText(payment.PayNum));
+  rows_.SetOldRowStatus();
+  if (rows_.OldRow != rows_.NewRow) rows_.SetNewRowStatus();
+  payment.CloseCn();
+}
+
+// Buttons.
+
+void Receipts::btnNew_Click() {
+  Trapped("Receipts.btnNew_Click -", [&] { rows_.GoToNewRow(); });
+}
+
+// A row must have been clicked; the one that the question names goes, also if the cursor came to it without a click.
+void Receipts::btnDelete_Click() {
+  Trapped("Receipts.btnDelete_Click -", [&] {
+    const int row = PaymentList.Row();
+    if (SelPayNum == 0 || PaymentList.Cell(row, kAmount).empty()) return;
+    SelPayNum = ValLong(PaymentList.Cell(row, kTransNum));
+    const std::string amount = convert.CurrencyText(convert.ToCurrency(PaymentList.Cell(row, kAmount)));
+    if (!AskYesNo("Delete Payment by " + PaymentList.Cell(row, kClient) + " in the amount of " + amount + "?",
+                  "Delete payment?")) {
+      return;
+    }
+    DeletePending = true;
+    SetPayments();
+  });
+}
+
+void Receipts::btnPrint_Click() {
+  if (PaymentList.Cell(PaymentList.Row(), kDate).empty()) {
+    desktop.Say("Select payment with valid date for printing receipt.");
+  } else {
+    ShowAnew(screens, "PrtReceipt");
+  }
+}
+
+// The window.
+
+void Receipts::Form_Resize() {
+  Trapped("Receipts.Form_Resize -", [&] {
+    PaymentList.SetLeft(720);
+    if (ScaleWidth() > 900) PaymentList.SetWidth(ScaleWidth() - 900);
+    PaymentList.SetHeight(std::max(0.0, ScaleHeight() - 1100));
+    const Twips left = ScaleWidth() - Command2.Width() - 200;
+    if (left >= 0) Command2.SetLeft(left);
+    btnPrint.SetLeft(Command2.Left() - btnPrint.Width() - 20);
+  });
+}
+
+void Receipts::Form_Unload() {
+  Trapped("Receipts.Form_Unload -", [&] { WriteGeometry(kSection); });
+}
+
+}  // namespace norvane

@@ -1,0 +1,33 @@
+#include "screens/setup/ExpenseTypes.h"
+
+namespace norvane {
+
+namespace {
+
+// Its buttons have no trap, and one routine reports under a name of its own.
+constexpr TypeListKind kExpenseTypes{
+    .name = ExpenseTypes::kName,
+    .caption = "Edit / Add Expense Types",
+    .formatString = "^|Expense Types",
+    .list = &Globals::rsExpenseTypes,
+    .read = &cSetup::rsExpenseTypes,
+    .save = &cSetup::SaveExpenseType,
+    .remove = &cSetup::DeleteExpenseType,
+    .labels = {.formLoad = "ExpenseTypes.Form_Load -",
+               .afterEdit = "ExpenseTypes.PaymentList_AfterEdit -",
+               .click = "ExpenseTypes.PaymentList_Click -",
+               .saveRow = "ExpenseTypes.SaveRow -",
+               .btnNew = {},
+               .btnDelete = {}},
+    .rowLabels = {.setOldRowStatus = "ExpenseTypes.SetOldRowStatus -",
+                  .setNewRowStatus = "ExpenseTypes.SetNewStatus -",
+                  .afterRowEdit = "ExpenseTypes.PaymentList_AfterRowEdit -",
+                  .rowColChange = "ExpenseTypes.PaymentList_RowColChange -",
+                  .lostFocus = "ExpenseTypes.PaymentList_LostFocus -"},
+};
+
+}  // namespace
+
+ExpenseTypes::ExpenseTypes(Program& host) : TypeList(host, kExpenseTypes) {}
+
+}  // namespace norvane

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "screens/setup/TypeList.h"
+
+namespace norvane {
+
+/// The expense types that registry entries choose from.
+class ExpenseTypes : public TypeList {
+ public:
+  static constexpr const char* kName = "ExpenseTypes";
+  explicit ExpenseTypes(Program& program);
+};
+
+}  // namespace norvane

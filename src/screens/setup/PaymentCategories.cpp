@@ -1,0 +1,31 @@
+#include "screens/setup/PaymentCategories.h"
+
+namespace norvane {
+
+namespace {
+
+constexpr TypeListKind kPaymentTypes{
+    .name = PaymentCategories::kName,
+    .caption = "Edit / Add Payment Categories",
+    .formatString = "^|Payment Type",
+    .list = &Globals::rsPaymentTypes,
+    .read = &cSetup::rsPaymentTypes,
+    .save = &cSetup::SavePaymentType,
+    .remove = &cSetup::DeletePaymentType,
+    .labels = {.formLoad = "PaymentCategories.Form_Load -",
+               .afterEdit = "PaymentCategories.PaymentList_AfterEdit -",
+               .click = "PaymentCategories.PaymentList_Click -",
+               .saveRow = "PaymentCategories.SaveRow -",
+               .btnNew = "PaymentCategories.btnNew_Click -",
+               .btnDelete = "PaymentCategories.btnDelete_Click -"},
+    .rowLabels = {.setOldRowStatus = "PaymentCategories.SetOldRowStatus -",
+                  .setNewRowStatus = "PaymentCategories.SetNewRowStatus -",
+                  .afterRowEdit = "PaymentCategories.AfterRowEdit -",
+                  .rowColChange = "PaymentCategories.PaymentList_RowColChange -"},
+};
+
+}  // namespace
+
+PaymentCategories::PaymentCategories(Program& host) : TypeList(host, kPaymentTypes) {}
+
+}  // namespace norvane

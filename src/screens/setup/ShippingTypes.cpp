@@ -1,0 +1,120 @@
+#include "screens/setup/ShippingTypes.h"
+
+#include "store/Recordset.h"
+#include "data/cSetup.h"
+
+namespace norvane {
+
+ShippingTypes::ShippingTypes(Program& host)
+    : Form(host, kName, {.caption = "Edit / Add Shipping Options", .width = 6600, .height = 5400}),
+      rows_(ShippingList, globals, desktop,
+            {.labels = {.setOldRowStatus = "ShippingTypes.SetOldRowStatus -",
+                        .setNewRowStatus = "ShippingTypes.SetNewRowStatus -",
+                        .afterRowEdit = "ShippingTypes.ShippingList_AfterRowEdit -",
+                        .rowColChange = "ShippingTypes.RowColChange -"},
+             .testColumns = {1},
+             .zeroMeansStarted = false},
+            [this] { SaveRow(); }) {
+  SetLayout(
+      layout::Column({layout::Stretch(ShippingList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
+  SetExitButton(btnExit);
+  ShippingList.GotFocus = [this] { ShippingList.SetCol(1); };
+  ShippingList.AfterEdit = [this](int row, int) { ShippingList_AfterEdit(row); };
+  ShippingList.Click = [this] { ShippingList_Click(); };
+  btnNew.Click = [this] { btnNew_Click(); };
+  btnDelete.Click = [this] { btnDelete_Click(); };
+  btnExit.Click = [this] { btnExit_Click(); };
+}
+
+void ShippingTypes::Form_Load() {
+  Trapped("ShippingTypes.Form_Load -", [&] {
+    ShippingList.Clear();
+    ShippingList.SetCols(4);
+    ShippingList.SetFormatString("^|Service|Weight|Charge");
+    const Twips widths[] = {300, 2000, 1400, 700};
+    for (int col = 0; col < 4; ++col) ShippingList.SetColWidth(col, widths[col]);
+    ShippingList.SetTopRow(1);
+    Recordset& options = *globals.rsShippingTypes;
+    if (options.RecordCount() > 0) options.MoveFirst();
+    for (; !options.Eof(); options.MoveNext()) {
+      ShippingList.AddItem("\t" + options.Text("Service") + "\t" + options.Text("Option") + "\t" +
+                           convert.CurrencyText(options.Field("charge")));
+    }
+    ShippingList.SetRows(options.RecordCount() + 1);
+    if (ShippingList.Rows() == 1) {
+      ShippingList.SetRows(2);
+      rows_.SetMarker(1, "*");
+    }
+  });
+}
+
+bool ShippingTypes::HasKey(std::int32_t row) const {
+  return !ShippingList.Cell(row, 1).empty() && !ShippingList.Cell(row, 2).empty();
+}
+
+void ShippingTypes::ShippingList_AfterEdit(int row) {
+  Trapped("ShippingTypes.ShippingList_AfterEdit -", [&] {
+    rows_.TakeCurrentRow();
+    if (HasKey(row)) globals.RowChanged = true;
+    rows_.SetOldRowStatus();
+  });
+}
+
+void ShippingTypes::SaveRow() {
+  Trapped("ShippingTypes.SaveRow -", [&] {
+    const std::int32_t row = rows_.RowLeft();
+    if (row > 0 && HasKey(row)) StoreRow(row);
+    globals.RowChanged = false;
+    rows_.SetOldRowStatus();
+  });
+}
+
+void ShippingTypes::StoreRow(std::int32_t row) {
+  globals.oSetup->OpenCn();
+  const std::string service = ShippingList.Cell(row, 1);
+  const std::string option = ShippingList.Cell(row, 2);
+  if (ShippingList.Cell(row, 3).empty()) ShippingList.SetCell(row, 3, "0");
+  globals.oSetup->SaveShippingType(service, option, convert.ToCurrency(ShippingList.Cell(row, 3)));
+  ReadList();
+  globals.oSetup->CloseCn();
+  rows_.SetMarker(row, "");
+}
+
+void ShippingTypes::ReadList() {
+  globals.rsShippingTypes = globals.oSetup->rsShippingTypes();
+}
+
+void ShippingTypes::ShippingList_Click() {
+  Trapped("ShippingTypes.ShippingList_Click -", [&] {
+    if (ShippingList.Row() < 1) return;
+    SelectedType = ShippingList.Cell(ShippingList.Row(), 1);
+    SelectedOption = ShippingList.Cell(ShippingList.Row(), 2);
+  });
+}
+
+void ShippingTypes::btnNew_Click() {
+  Trapped("ShippingTypes.btnNew_Click -", [&] { rows_.GoToNewRow(); });
+}
+
+void ShippingTypes::btnDelete_Click() {
+  Trapped("ShippingTypes.btnDelete_Click -", [&] {
+    const int row = ShippingList.Row();
+    if (row < 1) return;
+    SelectedType = ShippingList.Cell(row, 1);
+    SelectedOption = ShippingList.Cell(row, 2);
+    if (SelectedType.empty()) return;
+    if (!AskYesNo("Delete Shipping Option ... " + SelectedType + "?", "Delete Shipping Option?")) return;
+    globals.oSetup->OpenCn();
+    globals.oSetup->DeleteShippingType(SelectedType, SelectedOption);
+    ReadList();
+    globals.oSetup->CloseCn();
+    rows_.RemoveRow(ShippingList.Row());
+  });
+}
+
+void ShippingTypes::btnExit_Click() {
+  rows_.CommitPending();
+  Unload();
+}
+
+}  // namespace norvane

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "screens/start/Splash.h"
+
+namespace norvane {
+
+/// The splash, which tells what is being loaded.
+class intro : public Splash {
+ public:
+  static constexpr const char* kName = "intro";
+  explicit intro(Program& program);
+
+  Label lblProcess{*this, "lblProcess", "Loading..."};
+};
+
+}  // namespace norvane

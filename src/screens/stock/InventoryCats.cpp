@@ -1,0 +1,120 @@
+#include "screens/stock/InventoryCats.h"
+
+#include <memory>
+
+#include "store/Recordset.h"
+#include "data/Inventory.h"
+#include "screens/stock/frmInventory.h"
+
+namespace norvane {
+
+InventoryCats::InventoryCats(Program& host)
+    : Form(host, kName, {.caption = "Edit / Add Inventory Categories", .width = 4800, .height = 5200}),
+      rows_(InventoryList, globals, desktop,
+            {.labels = {.setOldRowStatus = "InventoryCats.SetOldRowStatus -",
+                        .setNewRowStatus = "InventoryCats.SetNewRowStatus -",
+                        .afterRowEdit = "InventoryCats.InventoryList_AfterRowEdit -",
+                        .rowColChange = "InventoryCats.InventoryList_RowColChange -"},
+             .testColumns = {2}},
+            [this] { SaveRow(); }) {
+  SetLayout(
+      layout::Column({layout::Stretch(InventoryList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
+  SetExitButton(btnExit);
+  InventoryList.GotFocus = [this] { InventoryList.SetCol(2); };
+  InventoryList.AfterEdit = [this](int row, int) { InventoryList_AfterEdit(row); };
+  InventoryList.Click = [this] { InventoryList_Click(); };
+  btnNew.Click = [this] { rows_.GoToNewRow(); };
+  btnDelete.Click = [this] { btnDelete_Click(); };
+  btnExit.Click = [this] { btnExit_Click(); };
+}
+
+void InventoryCats::Form_Load() {
+  Trapped("InventoryCats.Form_Load -", [&] {
+    InventoryList.Clear();
+    InventoryList.SetFormatString("^|Category#|Description");
+    InventoryList.SetColWidth(0, 300);
+    InventoryList.SetColWidth(1, 0);
+    InventoryList.SetColWidth(2, 1500);
+    InventoryList.SetTopRow(1);
+    Recordset& categories = *globals.rsCategories;
+    if (categories.RecordCount() > 0) categories.MoveFirst();
+    for (; !categories.Eof(); categories.MoveNext()) {
+      InventoryList.AddItem("\t" + categories.Text("CatNum") + "\t" + categories.Text("description"));
+    }
+    InventoryList.SetRows(categories.RecordCount() + 1);
+    if (InventoryList.Rows() == 1) {
+      InventoryList.SetRows(2);
+      rows_.SetMarker(1, "*");
+    }
+  });
+}
+
+void InventoryCats::InventoryList_AfterEdit(int row) {
+  Trapped("InventoryCats.InventoryList_AfterEdit -", [&] {
+    if (InventoryList.Cell(row, 2).empty()) return;
+    rows_.TakeCurrentRow();
+    SaveRow();
+  });
+}
+
+void InventoryCats::SaveRow() {
+  Trapped("InventoryCats.SaveRow -", [&] {
+    const std::int32_t row = rows_.RowLeft();
+    if (row > 0 && !InventoryList.Cell(row, 2).empty()) {
+      Inventory& inventory = *globals.oInventory;
+      inventory.OpenCn();
+      if (InventoryList.Cell(row, 1).empty()) InventoryList.SetCell(row, 1, "0");
+      inventory.CatNum = convert.ToLong(InventoryList.Cell(row, 1));
+      inventory.SaveCategory(inventory.CatNum, InventoryList.Cell(row, 2));
+      InventoryList.SetCell(row, 1, convert.ToText(inventory.CatNum));
+      inventory.CloseCn();
+      rows_.SetMarker(row, "");
+    }
+    globals.RowChanged = false;
+    rows_.SetOldRowStatus();
+  });
+}
+
+void InventoryCats::InventoryList_Click() {
+  Trapped("InventoryCats.InventoryList_Click -", [&] {
+    if (InventoryList.Row() >= 1) SelectRow(InventoryList.Row());
+  });
+}
+
+void InventoryCats::SelectRow(int row) {
+  const std::string key = InventoryList.Cell(row, 1);
+  globals.CurCatNum = key.empty() ? 0 : convert.ToLong(key);
+  SelCatName = key.empty() ? "" : InventoryList.Cell(row, 2);
+}
+
+void InventoryCats::btnDelete_Click() {
+  if (InventoryList.Row() < 1) return;
+  SelectRow(InventoryList.Row());
+  if (globals.CurCatNum == 0) return;
+  if (AskYesNo("Deleting a category is not recommended when items exist in the inventory category.  All items in  " +
+                   SelCatName + " will be deleted also.  Do you wish to do this?",
+               "Delete Inventory Category ... " + SelCatName + "?")) {
+    DeleteSelected();
+  }
+}
+
+void InventoryCats::DeleteSelected() {
+  if (IsOpen(globals.rsCategories.Share())) globals.rsCategories->Close();
+  globals.oInventory = std::make_shared<Inventory>(workspace);
+  globals.oInventory->InitAccess(workspace.File(kDatabaseFile));
+  globals.oInventory->OpenCn();
+  globals.oInventory->DeleteCategory(globals.CurCatNum);
+  globals.rsCategories = globals.oInventory->rsCategories();
+  globals.oInventory->CloseCn();
+  rows_.RemoveRow(InventoryList.Row());
+}
+
+void InventoryCats::btnExit_Click() {
+  rows_.CommitPending();
+  screens.Unload(frmInventory::kName);
+  globals.CurCatNum = 1;
+  screens.Show(frmInventory::kName);
+  Unload();
+}
+
+}  // namespace norvane

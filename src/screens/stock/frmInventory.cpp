@@ -1,0 +1,215 @@
+#include "screens/stock/frmInventory.h"
+
+#include <string_view>
+
+#include "store/Recordset.h"
+#include "data/Inventory.h"
+#include "data/SharedLists.h"
+#include "screens/stock/CategoryItem.h"
+#include "screens/stock/InventoryCats.h"
+
+namespace norvane {
+
+frmInventory::frmInventory(Program& host)
+    : Form(host, kName, {.caption = "Edit/Add Inventory", .width = 10200, .height = 6600}),
+      rows_(InventoryList, globals, desktop,
+            {.labels = {.setOldRowStatus = "frmInventory.SetOldRowStatus -",
+                        .setNewRowStatus = "frmInventory.SetNewRowStatus -",
+                        .afterRowEdit = "frmInventory.InventoryList_AfterRowEdit -",
+                        .rowColChange = "frmInventory.InventoryList_RowColChange -",
+                        .lostFocus = "frmInventory.InventoryList_LostFocus -"},
+             .testColumns = {2}},
+            [this] { SaveRow(); }) {
+  using namespace layout;
+  SetLayout(Column({Strip({Field("Category:", cmbCategory), btnCategories, Space(), btnNewItem, btnDelete, Command2}),
+                    Stretch(InventoryList)}));
+  SetExitButton(Command2);
+  cmbCategory.Click = [this] { cmbCategory_Click(); };
+  InventoryList.GotFocus = [this] { InventoryList.SetCol(2); };
+  InventoryList.AfterEdit = [this](int row, int) { InventoryList_AfterEdit(row); };
+  InventoryList.Click = [this] { InventoryList_Click(); };
+  btnNewItem.Click = [this] { btnNewItem_Click(); };
+  btnDelete.Click = [this] { btnDelete_Click(); };
+  btnCategories.Click = [this] { btnCategories_Click(); };
+  Command2.Click = [this] { Unload(); };
+}
+
+// Loading.
+
+void frmInventory::Form_Load() {
+  Trapped("frmInventory.Form_Load -", [&] {
+    desktop.DoEvents();
+    screens.Show("GettingInventory");
+    desktop.DoEvents();
+    CatShown = globals.CurCatNum;
+    GetInventory(workspace, CatShown, SelItemNum);
+    SetForm();
+    screens.Unload("GettingInventory");
+  });
+}
+
+void frmInventory::SetForm() {
+  Trapped("frmInventory.SetForm -", [&] {
+    SetUpGrid();
+    cmbCategory.Clear();
+    if (globals.rsInventory->RecordCount() == 0) {
+      InventoryList.SetRow(1);
+    } else {
+      ListItems();
+      InventoryList.SetRows(ItemRow + 1);
+      if (InventoryList.Rows() >= 7) InventoryList.SetTopRow(InventoryList.Rows() - 5);
+      rows_.SetMarker(InventoryList.Rows() - 1, "*");
+      InventoryList.SetRow(InventoryList.Rows() - 1);
+    }
+    FillCategories();
+  });
+}
+
+void frmInventory::SetUpGrid() {
+  InventoryList.Clear();
+  InventoryList.SetCols(7);
+  InventoryList.SetRows(2);
+  InventoryList.SetFormatString("^|Item#|Item Description|>Charge|>Par|>In Stock|Warranty");
+  const Twips widths[] = {300, 0, 2500, 1000, 800, 800, 1500};
+  for (int col = 0; col < 7; ++col) InventoryList.SetColWidth(col, widths[col]);
+  InventoryList.SetColDataType(3, ColumnType::Currency);
+  ItemRow = 1;
+}
+
+void frmInventory::ListItems() {
+  Recordset& items = *globals.rsInventory;
+  for (items.MoveFirst(); !items.Eof(); items.MoveNext()) {
+    InventoryList.AddItem("\t" + items.Text("ItemNum") + "\t" + items.Text("description") + "\t" +
+                              convert.CurrencyText(items.Field("charge")) + "\t" + items.Text("Par") + "\t" +
+                              items.Text("InStock") + "\t" + items.Text("Warranty"),
+                          ItemRow);
+    ++ItemRow;
+  }
+}
+
+void frmInventory::FillCategories() {
+  Recordset& categories = *globals.rsCategories;
+  if (categories.RecordCount() == 0) {
+    desktop.Say(
+        "No categories for which to enter inventory.  Please enter a category, for example...General, Labor, "
+        "Services, Hardware, Software, Foods, Books, CD's, etc.");
+    btnCategories_Click();
+    return;
+  }
+  OfferCategories(cmbCategory, categories);
+}
+
+void frmInventory::cmbCategory_Click() {
+  Trapped("frmInventory.cmbCategory_Click -", [&] {
+    globals.CurCatNum = CatShown = ValLong(std::string_view(cmbCategory.Text()).substr(0, 4));
+    GetInventory(workspace, CatShown, SelItemNum);
+    InventoryList.SetRows(1);
+    ItemRow = 1;
+    const std::int32_t count = globals.rsInventory->RecordCount();
+    if (count > 0) {
+      ListItems();
+      InventoryList.SetTopRow(1);
+      InventoryList.SetRows(count + 2);
+    }
+    if (InventoryList.Rows() == 1) {
+      InventoryList.SetRows(2);
+      InventoryList.SetFocus();
+      rows_.SetMarker(1, "*");
+    }
+    rows_.StartOver();
+    rows_.OldRow = InventoryList.Rows() - 1;
+    rows_.SetOldRowStatus();
+  });
+}
+
+// Editing.
+
+bool frmInventory::IsComplete(int row) const {
+  for (int col = 2; col <= 5; ++col) {
+    if (InventoryList.Cell(row, col).empty()) return false;
+  }
+  return true;
+}
+
+void frmInventory::InventoryList_AfterEdit(int row) {
+  Trapped("frmInventory.InventoryList_AfterEdit -", [&] {
+    rows_.TakeCurrentRow();
+    if (IsComplete(row)) {
+      InventoryList.SetCell(row, 3, convert.CurrencyText(std::string_view(InventoryList.Cell(row, 3))));
+      globals.RowChanged = true;
+      const int last = InventoryList.Rows() - 1;
+      if (rows_.NewRow == last && InventoryList.Cell(last, 1).empty()) {
+        InventoryList.SetCell(last, 1, "0");
+        InventoryList.SetRows(InventoryList.Rows() + 1);
+      }
+    }
+    rows_.SetOldRowStatus();
+  });
+}
+
+void frmInventory::SaveRow() {
+  Trapped("frmInventory.SaveRow -", [&] {
+    const std::int32_t row = rows_.RowLeft();
+    if (row > 0 && !InventoryList.Cell(row, 2).empty()) StoreRow(row);
+    globals.RowChanged = false;
+  });
+}
+
+// What is typed for the stock replaces the count: stock is taken by editing that column.
+void frmInventory::StoreRow(std::int32_t row) {
+  const std::string key = InventoryList.Cell(row, 1);
+  std::int32_t itemNum = key.empty() ? 0 : convert.ToLong(key);
+  for (int col = 4; col <= 6; ++col) {
+    if (InventoryList.Cell(row, col).empty()) InventoryList.SetCell(row, col, "0");
+  }
+  Inventory& item = *globals.oInventory;
+  item.OpenCn();
+  item.Category = CatShown;
+  item.description = InventoryList.Cell(row, 2);
+  item.charge = convert.ToCurrency(InventoryList.Cell(row, 3));
+  item.Par = convert.ToLong(InventoryList.Cell(row, 4));
+  item.InStock = convert.ToLong(InventoryList.Cell(row, 5));
+  item.Warranty = InventoryList.Cell(row, 6);
+  item.SaveItemAccess(itemNum);
+  InventoryList.SetCell(row, 1, convert.ToText(item.ItemNum));
+  InventoryList.SetCell(row, 3, convert.CurrencyText(std::string_view(InventoryList.Cell(row, 3))));
+  rows_.SetOldRowStatus();
+  if (rows_.NewRow != 0) rows_.SetNewRowStatus();
+  item.CloseCn();
+}
+
+void frmInventory::InventoryList_Click() {
+  IgnoringErrors([&] {
+    const std::string key = InventoryList.Cell(InventoryList.Row(), 1);
+    SelItemNum = key.empty() ? 0 : convert.ToLong(key);
+    SelItemName = key.empty() ? "" : InventoryList.Cell(InventoryList.Row(), 2);
+  });
+}
+
+// Buttons.
+
+void frmInventory::btnNewItem_Click() {
+  Trapped("frmInventory.btnNewItem_Click -", [&] { rows_.GoToNewRow(); });
+}
+
+void frmInventory::btnDelete_Click() {
+  Trapped("frmInventory.btnDelete_Click -", [&] {
+    if (SelItemNum == 0) return;
+    if (!AskYesNo("Delete Inventory Item " + SelItemName + " ?", "Delete Inventory Item ... " + SelItemName + "?")) {
+      return;
+    }
+    const std::string category = cmbCategory.Text();
+    globals.InventoryStale = true;
+    GetInventory(workspace, globals.CurCatNum, SelItemNum);
+    SetForm();
+    cmbCategory.SetText(category);
+    cmbCategory_Click();
+    globals.InventoryStale = false;
+  });
+}
+
+void frmInventory::btnCategories_Click() {
+  screens.Show(InventoryCats::kName, {.owner = this, .modal = true});
+}
+
+}  // namespace norvane

@@ -1,0 +1,47 @@
+#include "store/Connection.h"
+
+#include "core/Characters.h"
+#include "store/internal/Session.h"
+#include "store/internal/StoreError.h"
+
+namespace norvane {
+namespace {
+
+/// The path between the quotes of `Data Source = "..."`; nothing else of such a string is quoted.
+std::string DataSource(const std::string& connectionString) {
+  const std::size_t open = connectionString.find('"');
+  const std::size_t close = connectionString.rfind('"');
+  if (open == close) return "";
+  return connectionString.substr(open + 1, close - open - 1);
+}
+
+bool IsFileProvider(const std::string& connectionString) {
+  return StartsWithNoCase(connectionString, "Provider=Microsoft.Jet.OLEDB");
+}
+
+}  // namespace
+
+Connection::Connection(Engine& engine) : engine_(engine) {}
+Connection::~Connection() = default;
+
+int Connection::State() const {
+  return session_ ? 1 : 0;
+}
+
+void Connection::Open(const std::string&, const std::string&) {
+  if (session_) throw store_error::ObjectOpen();
+  if (!IsFileProvider(ConnectionString)) throw store_error::NoServer();
+  session_ = std::make_unique<Session>(engine_.Internals(), DataSource(ConnectionString));
+}
+
+void Connection::Close() {
+  if (!session_) throw store_error::ObjectClosed();
+  session_.reset();
+}
+
+Connection::Session& Connection::Use() {
+  if (!session_) throw store_error::ConnectionInvalid();
+  return *session_;
+}
+
+}  // namespace norvane

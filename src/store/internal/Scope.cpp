@@ -1,0 +1,95 @@
+#include "store/internal/Scope.h"
+
+#include <algorithm>
+
+#include "core/Characters.h"
+#include "store/internal/SqlWriting.h"
+#include "store/internal/StoreError.h"
+
+namespace norvane {
+namespace {
+
+bool Contains(const std::vector<ColumnReference>& columns, ColumnReference column) {
+  return std::find(columns.begin(), columns.end(), column) != columns.end();
+}
+
+}  // namespace
+
+void Scope::Add(const TableSchema& table) {
+  if (std::find(tables_.begin(), tables_.end(), &table) != tables_.end()) {
+    throw store_error::SyntaxErrorIn("FROM clause");
+  }
+  tables_.push_back(&table);
+}
+
+ColumnReference Scope::Resolve(const syntax::Name& name) const {
+  const ColumnReference none{tables_.size(), 0};
+  ColumnReference found = none;
+  for (std::size_t table = 0; table < tables_.size(); ++table) {
+    if (!name.table.empty() && !EqualNoCase(tables_[table]->name, name.table)) continue;
+    const int column = tables_[table]->Find(name.name);
+    if (column < 0) continue;
+    if (found != none) throw store_error::AmbiguousName(name.name);
+    found = {table, static_cast<std::size_t>(column)};
+  }
+  if (found == none) throw store_error::MissingParameter();
+  return found;
+}
+
+std::string Scope::Sql(ColumnReference column) const {
+  return Concat({QuotedName(tables_[column.table]->name), ".", QuotedName(NameOf(column))});
+}
+
+std::vector<ColumnReference> Scope::KeyOrder() const {
+  std::vector<ColumnReference> order;
+  for (std::size_t table = 0; table < tables_.size(); ++table) {
+    for (const std::size_t column : tables_[table]->key) {
+      if (!Determines(order, {table, column})) order.push_back({table, column});
+    }
+  }
+  return order;
+}
+
+bool Scope::Determines(const std::vector<ColumnReference>& columns, ColumnReference wanted) const {
+  std::vector<ColumnReference> known = columns;
+  const auto learn = [&](ColumnReference column) {
+    const bool isNew = !Contains(known, column);
+    if (isNew) known.push_back(column);
+    return isNew;
+  };
+  const auto keyIsKnown = [&](std::size_t table) {
+    const auto& key = tables_[table]->key;
+    return !key.empty() && std::all_of(key.begin(), key.end(), [&](std::size_t c) {
+      return Contains(known, {table, c});
+    });
+  };
+  std::vector<bool> tableLearnt(tables_.size());
+  for (bool learning = true; learning && !Contains(known, wanted);) {
+    learning = false;
+    for (const auto& [a, b] : equalities_) {
+      if (Contains(known, a)) learning |= learn(b);
+      if (Contains(known, b)) learning |= learn(a);
+    }
+    for (std::size_t table = 0; table < tables_.size(); ++table) {
+      if (tableLearnt[table] || !keyIsKnown(table)) continue;
+      tableLearnt[table] = learning = true;
+      for (std::size_t column = 0; column < tables_[table]->columns.size(); ++column) learn({table, column});
+    }
+  }
+  return Contains(known, wanted);
+}
+
+std::vector<ColumnReference> Scope::Independent(std::vector<ColumnReference> columns) const {
+  for (std::size_t i = 0; i < columns.size();) {
+    std::vector<ColumnReference> others = columns;
+    others.erase(others.begin() + static_cast<std::ptrdiff_t>(i));
+    if (Determines(others, columns[i])) {
+      columns = std::move(others);
+    } else {
+      ++i;
+    }
+  }
+  return columns;
+}
+
+}  // namespace norvane

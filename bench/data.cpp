@@ -11,9 +11,9 @@
 #include "core/Clock.h"
 #include "core/Conversions.h"
 #include "core/Reporter.h"
-#include "store/Engine.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
+#include "store/Engine.h"
 #include "support/Database.h"
 
 namespace norvane {

@@ -7,11 +7,11 @@
 
 #include "EmptyDesktop.h"
 #include "Measuring.h"
-#include "store/Recordset.h"
 #include "forms/Program.h"
-#include "screens/clients/Customer.h"
 #include "screens/Screens.h"
+#include "screens/clients/Customer.h"
 #include "screens/stock/frmInventory.h"
+#include "store/Recordset.h"
 #include "support/Database.h"
 
 namespace norvane {

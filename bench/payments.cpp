@@ -5,12 +5,12 @@
 
 #include "EmptyDesktop.h"
 #include "Measuring.h"
-#include "store/Recordset.h"
 #include "data/Invoice.h"
 #include "forms/Program.h"
+#include "screens/Screens.h"
 #include "screens/clients/Customer.h"
 #include "screens/sales/Receipts.h"
-#include "screens/Screens.h"
+#include "store/Recordset.h"
 #include "support/Database.h"
 
 namespace norvane {

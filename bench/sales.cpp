@@ -6,10 +6,10 @@
 #include "EmptyDesktop.h"
 #include "Measuring.h"
 #include "forms/Program.h"
-#include "screens/sales/CustInvoices.h"
-#include "screens/clients/Customer.h"
-#include "screens/sales/InvoiceDetail.h"
 #include "screens/Screens.h"
+#include "screens/clients/Customer.h"
+#include "screens/sales/CustInvoices.h"
+#include "screens/sales/InvoiceDetail.h"
 #include "support/Database.h"
 #include "support/Gestures.h"
 

@@ -1,9 +1,9 @@
 #include "data/SharedLists.h"
 
 #include "core/Trap.h"
-#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "data/cSetup.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

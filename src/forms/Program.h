@@ -8,11 +8,11 @@
 #include "core/Conversions.h"
 #include "core/Globals.h"
 #include "core/Workspace.h"
-#include "store/Engine.h"
 #include "forms/Desktop.h"
 #include "forms/Event.h"
 #include "forms/Focus.h"
 #include "forms/ScreenTable.h"
+#include "store/Engine.h"
 
 namespace norvane {
 

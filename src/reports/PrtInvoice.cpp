@@ -2,11 +2,11 @@
 
 #include <cmath>
 
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "reports/Headings.h"
 #include "reports/ReportTable.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

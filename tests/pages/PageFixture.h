@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "support/PagesText.h"
 #include "pages/DocumentBuilder.h"
 #include "pages/Layout.h"
+#include "support/PagesText.h"
 #include "support/PinnedFontMetrics.h"
 
 namespace norvane::pages {

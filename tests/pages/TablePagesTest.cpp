@@ -1,5 +1,5 @@
-#include "support/Golden.h"
 #include "PageFixture.h"
+#include "support/Golden.h"
 
 namespace norvane::pages {
 namespace {

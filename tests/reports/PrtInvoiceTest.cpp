@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "support/Golden.h"
 #include "ReportOffice.h"
 #include "reports/PrtInvoice.h"
+#include "support/Golden.h"
 
 namespace norvane::test {
 namespace {

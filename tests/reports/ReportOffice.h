@@ -6,14 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "support/PagesText.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "data/cSetup.h"
-#include "forms/Program.h"
 #include "forms/Preview.h"
+#include "forms/Program.h"
 #include "reports/RegisterReports.h"
 #include "support/Database.h"
+#include "support/PagesText.h"
 #include "support/PinnedFontMetrics.h"
 #include "support/ScriptedDesktop.h"
 

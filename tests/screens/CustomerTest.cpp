@@ -1,9 +1,9 @@
 #include <filesystem>
 
 #include "Office.h"
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "screens/clients/Profile.h"
+#include "store/Recordset.h"
 
 namespace norvane::test {
 namespace {

@@ -1,8 +1,8 @@
 #include "Office.h"
-#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "screens/stock/InventoryCats.h"
 #include "screens/stock/frmInventory.h"
+#include "store/Recordset.h"
 
 namespace norvane::test {
 namespace {

@@ -1,9 +1,9 @@
 #include "Office.h"
-#include "store/Recordset.h"
 #include "screens/setup/ExpenseTypes.h"
 #include "screens/setup/PaymentCategories.h"
 #include "screens/setup/ShippingTypes.h"
 #include "screens/setup/frmSetup.h"
+#include "store/Recordset.h"
 
 namespace norvane::test {
 namespace {

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "forms/Program.h"
-#include "screens/clients/Customer.h"
 #include "screens/Screens.h"
+#include "screens/clients/Customer.h"
 #include "support/Database.h"
 #include "support/Gestures.h"
 #include "support/ScriptedDesktop.h"

@@ -3,8 +3,8 @@
 #include "Office.h"
 #include "data/Invoice.h"
 #include "screens/sales/CustInvoices.h"
-#include "screens/stock/InvSearch.h"
 #include "screens/sales/InvoiceDetail.h"
+#include "screens/stock/InvSearch.h"
 
 namespace norvane::test {
 

@@ -2,8 +2,8 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
-#include "store/internal/Sqlite.h"
 #include "store/StoreTest.h"
+#include "store/internal/Sqlite.h"
 
 namespace norvane {
 namespace {

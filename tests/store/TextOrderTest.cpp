@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 
-#include "store/internal/TextFolding.h"
 #include "store/StoreTest.h"
+#include "store/internal/TextFolding.h"
 
 namespace norvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "pages/FontMetrics.h"
 #include "core/Utf8.h"
+#include "pages/FontMetrics.h"
 
 namespace norvane::pages {
 

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "core/Trap.h"
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "forms/Program.h"
-#include "screens/clients/Customer.h"
 #include "screens/Opening.h"
+#include "screens/clients/Customer.h"
 #include "screens/sales/Receipts.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -1,7 +1,7 @@
 #include "screens/clients/CustSearch.h"
 
-#include "store/Recordset.h"
 #include "screens/sales/Receipts.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

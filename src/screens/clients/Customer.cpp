@@ -3,18 +3,18 @@
 #include <memory>
 #include <utility>
 
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
 #include "data/SharedLists.h"
 #include "data/Vendor.h"
 #include "data/cSetup.h"
+#include "screens/Opening.h"
 #include "screens/clients/Clients.h"
 #include "screens/sales/CustInvoices.h"
-#include "screens/Opening.h"
 #include "screens/sales/Sales.h"
 #include "screens/start/intro.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

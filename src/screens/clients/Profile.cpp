@@ -1,9 +1,9 @@
 #include "screens/clients/Profile.h"
 
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "screens/clients/Clients.h"
 #include "screens/clients/Customer.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

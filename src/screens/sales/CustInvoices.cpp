@@ -2,9 +2,9 @@
 
 #include <tuple>
 
+#include "screens/Opening.h"
 #include "screens/clients/Clients.h"
 #include "screens/sales/InvoiceDetail.h"
-#include "screens/Opening.h"
 #include "screens/sales/Sales.h"
 
 namespace norvane {

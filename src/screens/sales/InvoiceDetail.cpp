@@ -2,13 +2,13 @@
 
 #include <utility>
 
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
-#include "screens/sales/CustInvoices.h"
 #include "screens/Opening.h"
+#include "screens/sales/CustInvoices.h"
 #include "screens/sales/Receipts.h"
 #include "screens/sales/Sales.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -1,10 +1,10 @@
 // The lines of an invoice: loading, editing and storing them, and the stock and back orders that follow.
 
-#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
-#include "screens/stock/InvSearch.h"
 #include "screens/sales/InvoiceDetail.h"
+#include "screens/stock/InvSearch.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -5,10 +5,10 @@
 
 #include "data/Client.h"
 #include "data/Invoice.h"
-#include "screens/sales/CustInvoices.h"
-#include "screens/clients/CustSearch.h"
 #include "screens/KeyedList.h"
 #include "screens/Opening.h"
+#include "screens/clients/CustSearch.h"
+#include "screens/sales/CustInvoices.h"
 #include "screens/sales/PaymentDate.h"
 
 namespace norvane {

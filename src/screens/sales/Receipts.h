@@ -4,9 +4,9 @@
 #include <string>
 
 #include "core/Object.h"
-#include "store/Recordset.h"
 #include "forms/Form.h"
 #include "screens/RowEditing.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

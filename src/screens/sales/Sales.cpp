@@ -4,11 +4,11 @@
 #include <string>
 
 #include "core/Trap.h"
-#include "store/Recordset.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "forms/Program.h"
 #include "screens/sales/CustInvoices.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

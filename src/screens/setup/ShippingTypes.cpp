@@ -1,7 +1,7 @@
 #include "screens/setup/ShippingTypes.h"
 
-#include "store/Recordset.h"
 #include "data/cSetup.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

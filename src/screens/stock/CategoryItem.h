@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "store/Recordset.h"
 #include "forms/Controls.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -2,12 +2,12 @@
 
 #include <string_view>
 
-#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
 #include "data/SharedLists.h"
-#include "screens/stock/CategoryItem.h"
 #include "screens/sales/InvoiceDetail.h"
+#include "screens/stock/CategoryItem.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "screens/stock/frmInventory.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -2,11 +2,11 @@
 
 #include <string_view>
 
-#include "store/Recordset.h"
 #include "data/Inventory.h"
 #include "data/SharedLists.h"
 #include "screens/stock/CategoryItem.h"
 #include "screens/stock/InventoryCats.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 

@@ -9,8 +9,8 @@
 #include <sys/types.h>
 #include <unordered_map>
 
-#include "store/internal/Catalog.h"
 #include "store/Engine.h"
+#include "store/internal/Catalog.h"
 #include "store/internal/Translator.h"
 
 namespace norvane {

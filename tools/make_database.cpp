@@ -14,10 +14,9 @@
 namespace {
 
 constexpr const char* kUsage =
-    "usage: make_database [--keep] SCHEMA TARGET\n"
+    "usage: make_database SCHEMA TARGET\n"
     "\n"
-    "Makes the empty database TARGET from the statements in the file SCHEMA. A TARGET that is there already is never\n"
-    "touched: that is an error or, with --keep, nothing to do.\n";
+    "Makes the empty database TARGET from the statements in the file SCHEMA. It is an error if TARGET exists.\n";
 
 std::string ReadText(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
@@ -68,15 +67,12 @@ void Make(const std::filesystem::path& schema, const std::filesystem::path& targ
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool keep = argc > 1 && std::strcmp(argv[1], "--keep") == 0;
-  if (argc != (keep ? 4 : 3)) {
+  if (argc != 3) {
     std::fputs(kUsage, stderr);
     return 2;
   }
-  const std::filesystem::path target = argv[argc - 1];
-  if (keep && std::filesystem::exists(target)) return 0;
   try {
-    Make(argv[argc - 2], target);
+    Make(argv[1], argv[2]);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "make_database: %s\n", error.what());
     return 1;

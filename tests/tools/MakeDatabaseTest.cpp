@@ -21,9 +21,9 @@ class MakeDatabaseTest : public testing::Test {
   fs::path Target() const { return folder_ / "norvane.mdb"; }
 
   /// True if the tool says that it went well.
-  bool Make(const std::string& option = "", const std::string& schema = NORVANES_SCHEMA) const {
+  bool Make(const std::string& schema = NORVANES_SCHEMA) const {
     const std::string command =
-        std::string(NORVANES_MAKE_DATABASE) + " " + option + " " + schema + " " + Target().string() + " 2>/dev/null";
+        std::string(NORVANES_MAKE_DATABASE) + " " + schema + " " + Target().string() + " 2>/dev/null";
     return std::system(command.c_str()) == 0;
   }
 
@@ -52,7 +52,6 @@ TEST_F(MakeDatabaseTest, MakesAFileForItsOwnerAlone) {
 TEST_F(MakeDatabaseTest, NeverTouchesAFileThatIsThere) {
   std::ofstream(Target()) << "a year's work";
   EXPECT_FALSE(Make());
-  EXPECT_TRUE(Make("--keep"));
   EXPECT_EQ(Content(), "a year's work");
   EXPECT_EQ(FilesInFolder(), 1U);
 }
@@ -60,8 +59,8 @@ TEST_F(MakeDatabaseTest, NeverTouchesAFileThatIsThere) {
 TEST_F(MakeDatabaseTest, LeavesNothingBehindWhenItFails) {
   const fs::path broken = folder_ / "broken.sql";
   std::ofstream(broken) << "create table a (b); create nonsense;";
-  EXPECT_FALSE(Make("", broken.string()));
-  EXPECT_FALSE(Make("", (folder_ / "none.sql").string()));
+  EXPECT_FALSE(Make(broken.string()));
+  EXPECT_FALSE(Make((folder_ / "none.sql").string()));
   EXPECT_EQ(FilesInFolder(), 1U);
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/Version.h"
 #include "forms/Form.h"
 
 namespace norvane {
@@ -12,7 +13,7 @@ class Splash : public Form {
   Splash(Program& host, std::string name, FormStyle style) : Form(host, std::move(name), std::move(style)) {}
 
   Picture Picture1{*this, "Picture1", "splash"};
-  Label lblVersion{*this, "lblVersion", "Version 1.1"};
+  Label lblVersion{*this, "lblVersion", std::string("Version ") + kVersion};
 
  protected:
   /// Reads the settings file and moves the main window to where it was left at the last exit: at start-up as well as

@@ -18,7 +18,7 @@ using Row = std::vector<std::string>;
 
 /// The rows of a table below the line of headings, which also tells how many columns there are.
 std::vector<Row> Table(const std::string& name) {
-  std::ifstream file(std::string(VECTORS_FOLDER "/") + name);
+  std::ifstream file(std::string(NORVANES_VECTORS "/") + name);
   std::vector<Row> rows;
   for (std::string line; std::getline(file, line);) {
     Row row;

@@ -5,7 +5,7 @@
 #include "LongList.h"
 #include "pages/Layout.h"
 #include "support/PinnedFontMetrics.h"
-#include "support/SampleInvoice.h"
+#include "SampleInvoice.h"
 
 namespace norvane::pages {
 namespace {

@@ -14,9 +14,9 @@ namespace {
 
 constexpr double kDotsPerInch = 100;
 
-const pages::Pages* DocumentOf(const Form& form) {
+const Preview* PreviewOf(const Form& form) {
   for (const Control* control : form.Controls())
-    if (const auto* preview = dynamic_cast<const Preview*>(control)) return &preview->Pages();
+    if (const auto* preview = dynamic_cast<const Preview*>(control)) return preview;
   return nullptr;
 }
 
@@ -38,15 +38,16 @@ void Insist(bool written, const QString& file) {
 }  // namespace
 
 std::size_t WritePaper(const Form& form, const std::filesystem::path& folder, const std::string& name) {
-  const pages::Pages* document = DocumentOf(form);
-  if (document == nullptr || document->pages.empty()) return 0;
+  const Preview* preview = PreviewOf(form);
+  if (preview == nullptr || preview->PageCount() == 0) return 0;
+  const pages::Pages& document = preview->Pages();
   const QString base = QString::fromStdString((folder / name).string());
-  const QString title = QString::fromStdString(form.Caption());
-  Insist(ui::WritePdf(*document, title, base + ".pdf").painted == ui::Painted::All, base + ".pdf");
-  const std::size_t pictures = std::min(document->pages.size(), kPicturedPages);
+  const QString title = QString::fromStdString(preview->Title());
+  Insist(ui::WritePdf(document, title, base + ".pdf").painted == ui::Painted::All, base + ".pdf");
+  const std::size_t pictures = std::min(document.pages.size(), kPicturedPages);
   for (std::size_t page = 0; page < pictures; ++page) {
     const QString file = QString("%1-%2.png").arg(base).arg(page + 1);
-    Insist(Picture(*document, page).save(file), file);
+    Insist(Picture(document, page).save(file), file);
   }
   return pictures;
 }

@@ -1,6 +1,7 @@
 #include "forms/Preview.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "forms/Form.h"
 #include "pages/Layout.h"
@@ -32,6 +33,12 @@ const pages::Pages& Preview::Pages() const {
 
 int Preview::PageCount() const {
   return static_cast<int>(Pages().pages.size());
+}
+
+int Preview::SurplusRows() const {
+  const std::vector<pages::Page>& pages = Pages().pages;
+  return std::accumulate(pages.begin(), pages.end(), 0,
+                         [](int rows, const pages::Page& page) { return rows + page.surplusRows; });
 }
 
 void Preview::Ended() {

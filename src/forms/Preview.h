@@ -11,7 +11,7 @@
 namespace norvane {
 
 /// How large the pages are shown: at a scale in percent, or fitted into the window in one of the ways of kZoomChoices,
-/// which stand in its order.
+/// in its order.
 enum class ZoomChoice { Percent, WholePage, PageWidth, TwoPages, Thumbnail };
 
 // The fixed words of previewing and printing.
@@ -23,29 +23,30 @@ inline constexpr const char* kPrintingPage = "Now printing Page %d of";
 
 /// The control in which a report builds its document, and which shows and prints the pages.
 ///
-/// It holds what was recorded and how it is looked at. Whoever draws it gives it the metrics of the fonts it draws
-/// with, asks for the pages, and is told Aspect::Pages when there are new ones, Aspect::State when they are to be shown
-/// otherwise, and Aspect::Caption when the title has changed.
+/// It holds the document and how it is viewed. The drawing side provides the metrics of its fonts and asks for the
+/// pages; it is notified of Aspect::Pages when there are new ones, of Aspect::State when page or zoom have changed, and
+/// of Aspect::Caption when the title has.
 class Preview : public Control, public pages::DocumentBuilder {
  public:
   using Control::Control;
   bool TakesFocus() const override { return true; }
 
-  /// The document's name for printers and files: what was set, else the caption of the window.
+  /// The document's name for printers and files: the one set, else the caption of the window.
   const std::string& Title() const;
   void SetTitle(std::string title);
 
-  /// The metrics aren't owned; whoever gave them takes them away again, with nothing, before they go.
+  /// Not owned. Pass nullptr before destroying them.
   void SetFontMetrics(const pages::FontMetrics* metrics);
-  /// The document as it stands now, laid out when it is first asked for; none before the first start and as long as
-  /// there are no metrics. The reference stays good; what it refers to is made anew by the first question about pages
-  /// after something was recorded.
+  /// The document as it is now, laid out on first use; none before the first start and while there are no metrics. The
+  /// reference stays valid; its contents are replaced by the first use after something was recorded.
   const pages::Pages& Pages() const;
   int PageCount() const;
-  /// An error has ended the building of the document: what there is of it is shown.
+  /// How many rows the forms of the document have no room for.
+  int SurplusRows() const;
+  /// Shows the document as far as it was recorded, after an error has ended that.
   void ShowSoFar();
 
-  /// The page looked at, from 1; 0 if there is none. A new document is shown from its first page.
+  /// The page viewed, from 1; 0 if there is none. A new document is shown from its first page.
   int CurrentPage() const;
   /// Goes to the nearest page that exists.
   void SetCurrentPage(int page);
@@ -68,7 +69,7 @@ class Preview : public Control, public pages::DocumentBuilder {
   int currentPage_ = 1;
   const pages::FontMetrics* metrics_ = nullptr;
   mutable pages::Pages pages_;
-  mutable std::optional<std::uint64_t> laidOut_;  ///< the revision that `pages_` shows
+  mutable std::optional<std::uint64_t> laidOut_;  ///< the revision that `pages_` holds
 };
 
 }  // namespace norvane

@@ -11,7 +11,7 @@
 
 namespace norvane::pages {
 
-// A document as it was recorded: what is to be set, not yet where. All measures are in points.
+// A document as it was recorded: its contents, not yet their places. All measures are in points.
 
 struct Margins {
   double left = kPointsPerInch;
@@ -26,7 +26,8 @@ struct Paragraph {
   Alignment alignment = Alignment::Left;
 };
 
-/// A rectangle from the page's top left corner; its text is neither wrapped nor clipped.
+/// A rectangle from the page's top left corner; its text isn't wrapped. A line too wide for it is set
+/// smaller, down to 6 points, and then ends in an ellipsis.
 struct TextBox {
   std::string text;
   double left = 0, top = 0, width = 0, height = 0;
@@ -59,6 +60,8 @@ struct Table {
   std::vector<TableRow> rows;
   std::vector<CellRange> bold;
   TableBorder border = TableBorder::None;
+  bool isForm = false;  ///< the number of its rows was forced
+  int surplusRows = 0;  ///< rows that the form had no room for
   Font font;
   Alignment alignment = Alignment::Left;  ///< of the whole table between the margins
 };

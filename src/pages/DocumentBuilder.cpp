@@ -17,6 +17,10 @@ void DocumentBuilder::Clear() {
   ++revision_;
 }
 
+void DocumentBuilder::SetPageSetting(int setting) {
+  if (setting != 1) Raise(ErrorNumber::InvalidProcedureCall);
+}
+
 void DocumentBuilder::SetMargins(std::string_view left, std::string_view right, std::string_view top,
                                  std::string_view bottom) {
   margins_ = {PointsOf(left), PointsOf(right), PointsOf(top), PointsOf(bottom)};
@@ -85,7 +89,11 @@ void DocumentBuilder::AddTable(std::string_view format, std::string_view heading
 }
 
 void DocumentBuilder::SetTableRows(int count) {
-  OpenTable().rows.resize(static_cast<std::size_t>(std::max(count, 0)));
+  Table& table = OpenTable();
+  const int rows = std::max(count, 0);
+  table.isForm = true;
+  table.surplusRows += std::max(static_cast<int>(table.rows.size()) - rows, 0);
+  table.rows.resize(static_cast<std::size_t>(rows));
 }
 
 void DocumentBuilder::SetTableRowHeight(int row, std::string_view height) {

@@ -19,31 +19,31 @@ class DocumentBuilder {
   // Set-up; stays for the documents that follow.
   /// Discards the document and what is set for its text.
   void Clear();
-  /// 1 is Letter portrait, which all pages are.
-  void SetPageSetting(int setting) { pageSetting_ = setting; }
+  /// 1, Letter portrait, is the only page there is; raises 5 for another.
+  void SetPageSetting(int setting);
   void SetMargins(std::string_view left, std::string_view right, std::string_view top, std::string_view bottom);
 
-  /// Opens the first page of a new document, in the body font, left aligned, without header and footer. Whatever stood
-  /// there before is discarded, ended or not.
+  /// Opens the first page of a new document, in the body font, left aligned, without header and footer. A document
+  /// that was there before is discarded, ended or not.
   void StartDocument();
   /// Closes the document. A table that was not ended is not part of it.
   void EndDocument();
   void NewPage();
 
-  // The text set last stands on every page, those already begun included. Parts: left|centre|right.
+  // The text set last is on every page, those already begun included. Parts: left|centre|right.
   void SetHeader(std::string_view text);
   void SetFooter(std::string_view text);
 
-  // What follows is set so.
+  // For all that follows.
   void SetAlignment(Alignment alignment) { alignment_ = alignment; }
   void SetBold(bool bold) { font_.face.bold = bold; }
   /// In points; raises 5 for 0 or less.
   void SetFontSize(double points);
   void SetFontSize(std::string_view points);
 
-  /// The text between the margins, below what stands there; a line feed breaks the line, an empty text is a blank line.
+  /// The text between the margins, below what is there; a line feed breaks the line, an empty text is an empty line.
   void WriteParagraph(std::string_view text);
-  /// The text in a rectangle from the page's top left corner. What follows stands below the lowest box of the page.
+  /// The text in a rectangle from the page's top left corner. What follows is placed below the lowest box of the page.
   void WriteTextBox(std::string_view text, std::string_view left, std::string_view top, std::string_view width,
                     std::string_view height);
 
@@ -52,7 +52,8 @@ class DocumentBuilder {
   /// Adds the body's rows. Format and heading of the first call count (TableFormat.h); a body may be empty.
   void AddTable(std::string_view format, std::string_view heading, std::string_view body);
   // Set table cell. Rows and columns that do not exist are passed over.
-  /// Setting 1: from here on the body has exactly so many rows; surplus ones are lost, missing ones empty.
+  /// Setting 1: makes the table a form whose body has exactly so many rows; surplus ones are counted and dropped,
+  /// missing ones are empty.
   void SetTableRows(int count);
   /// Setting 7: the row's height; 0 is the heading, 1 the first of the body.
   void SetTableRowHeight(int row, std::string_view height);
@@ -63,7 +64,6 @@ class DocumentBuilder {
 
   /// Nothing before the first start and after a clear. An unfinished document holds what was written so far.
   const std::optional<Document>& Recorded() const { return document_; }
-  int PageSetting() const { return pageSetting_; }
 
  protected:
   /// Grows with everything that is recorded or discarded.
@@ -76,7 +76,6 @@ class DocumentBuilder {
   Table& OpenTable();
   TableRow* Row(int row);
 
-  int pageSetting_ = 1;
   Margins margins_;
   Alignment alignment_ = Alignment::Left;
   Font font_ = kBodyFont;

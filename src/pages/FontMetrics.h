@@ -15,7 +15,7 @@ class FontMetrics {
   virtual double Ascent(Face face) const = 0;
   virtual double Descent(Face face) const = 0;
   /// The advance width of a run of UTF-8 text, without kerning: the layout adds up the widths of the single characters
-  /// of scripts that need no shaping. Whoever draws the run has to leave kerning off as well.
+  /// of scripts that need no shaping. Painters have to leave kerning off as well.
   virtual double Advance(Face face, std::string_view text) const = 0;
 };
 

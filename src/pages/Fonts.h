@@ -19,9 +19,9 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
-/// What a document starts with.
+/// The font a document starts with.
 inline constexpr Font kBodyFont{{Family::Arial, false}, 11.25F};
-/// Headers and footers; nothing that is set for the body touches it.
+/// Of headers and footers; settings for the body do not change it.
 inline constexpr Font kHeaderFont{{Family::CourierNew, false}, 14.25F};
 
 inline constexpr const char* FamilyName(Family family) {

@@ -7,10 +7,9 @@
 namespace norvane::pages {
 namespace {
 
-// Sums of widths that are meant to fit exactly differ in their last bits.
-constexpr double kTolerance = 1e-4;
+constexpr double kTolerance = 1e-4;  // of the font's size
 
-/// Removes and returns what stands before the next line feed; a carriage return counts, and both together as one.
+/// Removes and returns the text before the next line feed; a carriage return counts too, and both together as one.
 std::string_view TakeLine(std::string_view& text, bool& more) {
   const std::size_t end = text.find_first_of("\r\n");
   const std::string_view line = text.substr(0, end);
@@ -36,8 +35,8 @@ class Wrapper {
   }
 
  private:
-  void AddWord(std::size_t blanks, std::size_t word, std::size_t end) {
-    const double reached = used_ + ruler_.Width(face_, text_.substr(blanks, end - blanks));
+  void AddWord(std::size_t spaces, std::size_t word, std::size_t end) {
+    const double reached = used_ + ruler_.Width(face_, text_.substr(spaces, end - spaces));
     if (reached <= width_) {
       used_ = reached;
       end_ = end;
@@ -48,7 +47,7 @@ class Wrapper {
     BreakWord(end);
   }
 
-  // Looks no further than each line reaches: a text without blanks may be long.
+  // Looks no further than each line reaches: a text without spaces may be long.
   void BreakWord(std::size_t end) {
     while (true) {
       const std::string_view rest = text_.substr(begin_, end - begin_);
@@ -118,6 +117,16 @@ std::size_t FittingLength(TextRuler& ruler, Face face, std::string_view text, do
     place += length;
   }
   return text.size();
+}
+
+std::string Shortened(TextRuler& ruler, Face face, std::string_view text, double width) {
+  const double room = width - ruler.Width(face, kEllipsis);
+  return std::string(text.substr(0, FittingLength(ruler, face, text, room))).append(kEllipsis);
+}
+
+float FittingSize(double width, double room, float size, float smallest) {
+  while (width * size > room + kFitTolerance && size > smallest) size = std::max(size - kSizeStep, smallest);
+  return size;
 }
 
 }  // namespace norvane::pages

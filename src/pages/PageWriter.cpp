@@ -7,7 +7,7 @@ namespace norvane::pages {
 void PageWriter::NewPage() {
   Page page;
   if (HasPage()) {
-    // The pages of a report are much alike.
+    // The pages of a report are much the same.
     const Page& last = pages_.pages.back();
     page.runs.reserve(last.runs.size());
     page.lines.reserve(last.lines.size());

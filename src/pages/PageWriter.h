@@ -7,7 +7,7 @@
 
 namespace norvane::pages {
 
-/// Writes text and rules on the last page, in points.
+/// Writes text and lines on the last page, in points.
 class PageWriter {
  public:
   explicit PageWriter(TextRuler& ruler) : ruler_(ruler) {}
@@ -17,6 +17,8 @@ class PageWriter {
   /// One line of text whose top edge and left edge are given. An empty one leaves no trace.
   void Write(double left, double top, const Font& font, std::string_view text);
   void Rule(double x1, double y1, double x2, double y2, double width, double grey = 0);
+  /// Adds to the rows that have no room on this page.
+  void CountSurplusRows(int rows) { pages_.pages.back().surplusRows += rows; }
   Pages TakePages() { return std::move(pages_); }
 
  private:

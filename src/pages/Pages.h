@@ -15,13 +15,13 @@ inline constexpr double kPointsPerInch = 72.0;
 inline constexpr double kPageWidth = 8.5 * kPointsPerInch;
 inline constexpr double kPageHeight = 11.0 * kPointsPerInch;
 
-/// How a page lies on a sheet of paper: its left edge, which may be beyond the paper's, and by how much it is shrunk.
+/// The place of a page on a sheet of paper: its left edge, which may be beyond the paper's, and its scale.
 struct Placing {
   double left = 0;
   double scale = 1;
 };
 
-/// Pages stand centred across, with their tops equal, and keep their size on Letter, on A4 (whose edges cut a little of
+/// Pages are centred across, with their tops equal, and keep their size on Letter, on A4 (whose edges cut a little of
 /// the empty margins) and on anything larger; on smaller paper they shrink, so that nothing is lost.
 inline Placing PlaceOn(double paperWidth, double paperHeight) {
   constexpr double kWidthOfA4 = 595;
@@ -49,12 +49,13 @@ struct Line {
 struct Page {
   std::vector<TextRun> runs;  ///< in reading order: header, body, footer
   std::vector<Line> lines;
-  std::string text;  ///< of all runs, one behind the other
+  std::string text;     ///< of all runs, one after the other
+  int surplusRows = 0;  ///< rows for which the forms on this page have no room
 
   std::string_view TextOf(const TextRun& run) const { return std::string_view(text).substr(run.begin, run.length); }
 };
 
-/// A document laid out: what stands where, ready to be painted on any device.
+/// A document laid out, ready to be painted on any device.
 struct Pages {
   std::vector<Font> fonts;  ///< each font that occurs, once
   std::vector<Page> pages;

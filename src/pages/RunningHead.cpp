@@ -10,8 +10,6 @@ namespace norvane::pages {
 namespace {
 
 constexpr float kSmallestSize = 8.0F;
-constexpr float kStep = 0.5F;
-constexpr std::string_view kEllipsis = "\u2026";
 
 void DropLastCharacter(std::string& text) {
   while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) text.pop_back();
@@ -34,13 +32,13 @@ void RunningHead::WriteOn(PageWriter& writer, double top) const {
 }
 
 void RunningHead::Shrink(TextRuler& ruler) {
-  while (font_.size > kSmallestSize && Collides(ruler)) font_.size = std::max(font_.size - kStep, kSmallestSize);
+  while (font_.size > kSmallestSize && Collides(ruler)) font_.size = std::max(font_.size - kSizeStep, kSmallestSize);
 }
 
 void RunningHead::Shorten(TextRuler& ruler) {
   std::array<std::string, 3> kept;
   for (std::size_t i = 0; i < parts_.size(); ++i) {
-    // What lies beyond the whole line cannot stay in any case.
+    // What goes beyond the whole line is cut in any case.
     kept[i] = parts_[i].substr(0, FittingLength(ruler, font_.face, parts_[i], (right_ - left_) / font_.size));
   }
   while (Collides(ruler)) {
@@ -54,9 +52,9 @@ void RunningHead::Shorten(TextRuler& ruler) {
 
 bool RunningHead::Collides(TextRuler& ruler) const {
   const auto [left, centre, right] = Widths(ruler);
-  const double blank = ruler.Width(font_.face, " ") * font_.size;
+  const double space = ruler.Width(font_.face, " ") * font_.size;
   const double room = right_ - left_;
-  const auto gap = [&](double width) { return width > 0 ? width + blank : 0; };
+  const auto gap = [&](double width) { return width > 0 ? width + space : 0; };
   if (centre > 0) return centre > room || std::max(gap(left), gap(right)) > (room - centre) / 2;
   return right > 0 ? gap(left) + right > room : left > room;
 }

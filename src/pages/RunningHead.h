@@ -9,7 +9,7 @@
 namespace norvane::pages {
 
 /// A header or footer: left, centre and right part on one line between the margins. Parts that would collide shrink
-/// evenly until a blank parts them; if that is not enough, the longest ends in an ellipsis.
+/// evenly until a space separates them; if that is not enough, the longest ends in an ellipsis.
 class RunningHead {
  public:
   /// `text` has its parts separated by `|`; a fourth and further ones are dropped. Margins in points.

@@ -19,14 +19,14 @@ struct Column {
 /// column without a width above 0.
 std::vector<Column> ReadTableFormat(std::string_view format);
 
-/// The heading's cells, still separated by `|`: what stands before the first `;`.
+/// The heading's cells, still separated by `|`: the text before the first `;`.
 std::string_view ReadTableHeading(std::string_view heading);
 
-/// Hands out and removes the first row of a body: its cells, still separated by `|`, without the closing `;`. The last
+/// Removes and returns the first row of a body: its cells, still separated by `|`, without the closing `;`. The last
 /// row may lack it. False if the body is used up.
 bool TakeRow(std::string_view& body, std::string_view& cells);
 
-/// Hands out and removes the first cell of a row. A row that is used up gives empty cells.
+/// Removes and returns the first cell of a row. A row that is used up gives empty cells.
 std::string_view TakeCell(std::string_view& cells);
 
 }  // namespace norvane::pages

@@ -11,8 +11,6 @@
 namespace norvane::pages {
 namespace {
 
-constexpr double kTolerance = 0.01;
-
 /// A table that is wider than the body hangs over both margins evenly.
 double LeftOf(const Table& table, const Body& body) {
   double width = 0;
@@ -22,13 +20,15 @@ double LeftOf(const Table& table, const Body& body) {
 
 class TablePlacer {
  public:
-  TablePlacer(Flow& flow, const Table& table) : flow_(flow), table_(table), measurer_(flow.Ruler(), table) {
+  TablePlacer(PageFlow& flow, const Table& table) : flow_(flow), table_(table), measurer_(flow.Ruler(), table) {
     part_.left = LeftOf(table, flow.Area());
   }
 
-  void Run() {
+  void Run(double heightBelow) {
+    if (table_.isForm) measurer_.FitFormInto(flow_.Room() - heightBelow);
     measurer_.Measure(0, heading_);
-    if (table_.border == TableBorder::Totals) KeepTogether();
+    // One that no page can hold has to break after all.
+    if (table_.border == TableBorder::Totals) flow_.KeepTogether(KeptHeight());
     if (heading_.height > flow_.Area().Height() / 2) GiveUpHeading();
     if (table_.rows.empty()) MakeRoom(0);
     for (std::size_t number = 1; number <= table_.rows.size(); ++number) {
@@ -38,25 +38,25 @@ class TablePlacer {
     ClosePart();
   }
 
- private:
-  void KeepTogether() {
-    double height = heading_.height;
-    for (std::size_t number = 1; number <= table_.rows.size(); ++number) {
+  double KeptHeight() {
+    const std::size_t last = table_.border == TableBorder::Totals ? table_.rows.size() : 1;
+    double height = 0;
+    for (std::size_t number = 0; number <= std::min(last, table_.rows.size()); ++number) {
       measurer_.Measure(number, row_);
       height += row_.height;
     }
-    // One that no page can hold has to break after all.
-    if (flow_.NeedsNewPage(height) && height <= flow_.Area().Height()) flow_.NewPage();
+    return height;
   }
 
-  // A heading that leaves hardly any room for rows is set once, like a row.
+ private:
+  // A heading that leaves hardly any room for rows is written once, like a row.
   void GiveUpHeading() {
     row_ = std::exchange(heading_, {});
     PlaceRow();
   }
 
   void PlaceRow() {
-    if (heading_.height + row_.height > flow_.Area().Height() + kTolerance) {
+    if (heading_.height + row_.height > flow_.Area().Height() + kFitTolerance) {
       PlaceInPieces();
     } else {
       MakeRoom(row_.height);
@@ -96,7 +96,7 @@ class TablePlacer {
     const double top = flow_.Position() + kCellPaddingDown;
     for (std::size_t i = 0; i < taken_.size(); ++i) {
       const MeasuredCell& cell = row_.cells[i];
-      const double fitting = std::floor((room - 2 * kCellPaddingDown + kTolerance) / cell.lineHeight);
+      const double fitting = std::floor((room - 2 * kCellPaddingDown + kFitTolerance) / cell.lineHeight);
       const auto most = static_cast<std::size_t>(std::max(fitting, 1.0));
       const std::size_t count = std::min(cell.lineCount - taken_[i], most);
       DrawLines(row_, i, taken_[i], count, top);
@@ -107,8 +107,8 @@ class TablePlacer {
     return height;
   }
 
-  /// Opens the table's part that a row of this height belongs to: on the next page if it does not fit below what stands
-  /// here, together with the heading.
+  /// Opens the part of the table for a row of this height: on the next page if it does not fit on this one, together
+  /// with the heading.
   void MakeRoom(double height) {
     if (flow_.NeedsNewPage(height + (IsOpen() ? 0 : heading_.height))) NextPage();
     if (!IsOpen()) OpenPart();
@@ -165,19 +165,23 @@ class TablePlacer {
     part_.edges.push_back(flow_.Position());
   }
 
-  Flow& flow_;
+  PageFlow& flow_;
   const Table& table_;
   RowMeasurer measurer_;
   MeasuredRow heading_;
   MeasuredRow row_;
-  std::vector<std::size_t> taken_;  ///< lines of each cell that stand already
+  std::vector<std::size_t> taken_;  ///< lines of each cell that are drawn already
   TablePart part_;
 };
 
 }  // namespace
 
-void PlaceTable(Flow& flow, const Table& table) {
-  TablePlacer(flow, table).Run();
+void PlaceTable(PageFlow& flow, const Table& table, double heightBelow) {
+  TablePlacer(flow, table).Run(heightBelow);
+}
+
+double KeptHeightOf(PageFlow& flow, const Table& table) {
+  return TablePlacer(flow, table).KeptHeight();
 }
 
 }  // namespace norvane::pages

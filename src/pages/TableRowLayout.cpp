@@ -5,75 +5,79 @@
 namespace norvane::pages {
 namespace {
 
-constexpr float kStep = 0.5F;
-constexpr float kSmallestSizeOfRow = 7.0F;
-constexpr std::size_t kMostLinesOfShrunkRow = 2;
+constexpr float kSmallestShrunkSize = 7.0F;
+constexpr std::size_t kMostShrunkLines = 2;
 constexpr float kSmallestShareForWord = 0.7F;
-constexpr double kTolerance = 0.01;
-
-std::size_t MostLines(const MeasuredRow& row) {
-  std::size_t most = 0;
-  for (const MeasuredCell& cell : row.cells) most = std::max(most, cell.lineCount);
-  return most;
-}
 
 }  // namespace
 
 void RowMeasurer::Measure(std::size_t number, MeasuredRow& measured) {
   const TableRow& row = number == 0 ? table_.heading : table_.rows[number - 1];
-  MeasureAt(table_.font.size, row, number, measured);
-  if (!row.height) return;
-  if (measured.height > *row.height + kTolerance) Shrink(row, number, measured);
-  measured.height = std::max<double>(measured.height, *row.height);
-}
-
-// What does not fit at the smallest size fits at none, and stays at it.
-void RowMeasurer::Shrink(const TableRow& row, std::size_t number, MeasuredRow& measured) {
-  const auto fits = [&] {
-    return measured.height <= *row.height + kTolerance && MostLines(measured) <= kMostLinesOfShrunkRow;
-  };
-  float size = table_.font.size;
-  const float smallest = std::min(size, kSmallestSizeOfRow);
-  MeasureAt(smallest, row, number, measured);
-  if (!fits()) return;
-  do {
-    size = std::max(size - kStep, smallest);
-    MeasureAt(size, row, number, measured);
-  } while (!fits());
-}
-
-void RowMeasurer::MeasureAt(float size, const TableRow& row, std::size_t number, MeasuredRow& measured) {
   measured.cells.clear();
   measured.lines.clear();
-  Font font = table_.font;
-  font.size = size;
-  measured.height = ruler_.LineHeight(font) + 2 * kCellPaddingDown;
+  measured.height = row.height ? *row.height - givenUp_ * SpareHeight(row) : LeastHeight();
   std::string_view rest = row.cells;
   for (std::size_t column = 0; column < table_.columns.size(); ++column) {
-    font.face.bold = table_.font.face.bold || IsBold(number, column + 1);
-    MeasureCell(TakeCell(rest), table_.columns[column], font, measured);
+    CellText cell{TakeCell(rest), table_.font, std::max(table_.columns[column].width - 2 * kCellPaddingAcross, 0.0)};
+    cell.font.face.bold |= IsBold(number, column + 1);
+    measured.cells.push_back(MeasureCell(cell, row.height, measured.lines));
+    if (!cell.text.empty()) measured.height = std::max(measured.height, measured.cells.back().Height());
   }
 }
 
-void RowMeasurer::MeasureCell(std::string_view text, const Column& column, Font font, MeasuredRow& measured) {
-  const double room = std::max(column.width - 2 * kCellPaddingAcross, 0.0);
-  font.size = SizeForWords(text, font, room);
-  MeasuredCell cell{font, ruler_.LineHeight(font), measured.lines.size()};
-  BreakLines(ruler_, font.face, text, room / font.size, measured.lines);
-  cell.lineCount = measured.lines.size() - cell.firstLine;
-  measured.height =
-      std::max(measured.height, static_cast<double>(cell.lineCount) * cell.lineHeight + 2 * kCellPaddingDown);
-  measured.cells.push_back(cell);
+void RowMeasurer::FitFormInto(double room) {
+  double height = 0;
+  double spare = 0;
+  MeasuredRow measured;
+  for (std::size_t number = 0; number <= table_.rows.size(); ++number) {
+    Measure(number, measured);
+    height += measured.height;
+    if (number > 0) spare += SpareHeight(table_.rows[number - 1]);
+  }
+  const double excess = height - room;
+  if (excess > 0 && excess <= spare) givenUp_ = excess / spare;
+}
+
+double RowMeasurer::SpareHeight(const TableRow& row) const {
+  return row.cells.empty() && row.height ? std::max(*row.height - LeastHeight(), 0.0) : 0.0;
+}
+
+// In a row of set height, a cell that doesn't fit is set smaller. What doesn't fit at the smallest size fits at none,
+// and stays at it.
+MeasuredCell RowMeasurer::MeasureCell(CellText cell, const std::optional<float>& rowHeight,
+                                      std::vector<BrokenLine>& lines) {
+  const std::size_t first = lines.size();
+  MeasuredCell measured = Break(cell, first, lines);
+  const auto fits = [&] { return !rowHeight || measured.Height() <= *rowHeight + kFitTolerance; };
+  const auto fitsShrunk = [&] { return fits() && measured.lineCount <= kMostShrunkLines; };
+  if (cell.text.empty() || fits()) return measured;
+  float size = cell.font.size;
+  const float smallest = std::min(size, kSmallestShrunkSize);
+  cell.font.size = smallest;
+  measured = Break(cell, first, lines);
+  if (!fitsShrunk()) return measured;
+  do {
+    size = std::max(size - kSizeStep, smallest);
+    cell.font.size = size;
+    measured = Break(cell, first, lines);
+  } while (!fitsShrunk());
+  return measured;
+}
+
+MeasuredCell RowMeasurer::Break(const CellText& cell, std::size_t firstLine, std::vector<BrokenLine>& lines) {
+  lines.resize(firstLine);
+  Font font = cell.font;
+  font.size = SizeForWords(cell);
+  BreakLines(ruler_, font.face, cell.text, cell.width / font.size, lines);
+  return {font, ruler_.LineHeight(font), firstLine, lines.size() - firstLine};
 }
 
 // A word or an amount that is too wide for its column is set smaller before it is broken.
-float RowMeasurer::SizeForWords(std::string_view text, const Font& font, double room) {
-  if (ruler_.Width(font.face, text) * font.size <= room) return font.size;
-  const double widest = WidestWord(ruler_, font.face, text);
-  const float smallest = std::min(table_.font.size * kSmallestShareForWord, font.size);
-  float size = font.size;
-  while (widest * size > room + kTolerance && size > smallest) size = std::max(size - kStep, smallest);
-  return size;
+float RowMeasurer::SizeForWords(const CellText& cell) {
+  const Font& font = cell.font;
+  if (ruler_.Width(font.face, cell.text) * font.size <= cell.width) return font.size;
+  return FittingSize(WidestWord(ruler_, font.face, cell.text), cell.width, font.size,
+                     table_.font.size * kSmallestShareForWord);
 }
 
 bool RowMeasurer::IsBold(std::size_t row, std::size_t column) const {

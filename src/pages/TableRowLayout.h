@@ -8,7 +8,7 @@
 
 namespace norvane::pages {
 
-/// Rows stand a little apart from their text, columns more.
+/// Between a cell's edges and its text, in points.
 inline constexpr double kCellPaddingAcross = 0.05 * kPointsPerInch;
 inline constexpr double kCellPaddingDown = 0.5;
 
@@ -17,6 +17,8 @@ struct MeasuredCell {
   double lineHeight = 0;  ///< points
   std::size_t firstLine = 0;
   std::size_t lineCount = 0;
+
+  double Height() const { return static_cast<double>(lineCount) * lineHeight + 2 * kCellPaddingDown; }
 };
 
 /// A row whose text is broken into lines. The lines point into the row's cells.
@@ -33,16 +35,27 @@ class RowMeasurer {
 
   /// Measures row `number`, 0 being the heading, into `measured`, whose storage is used again.
   void Measure(std::size_t number, MeasuredRow& measured);
+  /// Lowers the empty rows of a form, all by the same share of what they can spare, if the table then fits into `room`
+  /// points; otherwise they stay as they are.
+  void FitFormInto(double room);
 
  private:
-  void Shrink(const TableRow& row, std::size_t number, MeasuredRow& measured);
-  void MeasureAt(float size, const TableRow& row, std::size_t number, MeasuredRow& measured);
-  void MeasureCell(std::string_view text, const Column& column, Font font, MeasuredRow& measured);
+  struct CellText {
+    std::string_view text;
+    Font font;
+    double width = 0;  ///< points
+  };
+
+  double LeastHeight() const { return ruler_.LineHeight(table_.font) + 2 * kCellPaddingDown; }
+  double SpareHeight(const TableRow& row) const;
+  MeasuredCell MeasureCell(CellText cell, const std::optional<float>& rowHeight, std::vector<BrokenLine>& lines);
+  MeasuredCell Break(const CellText& cell, std::size_t firstLine, std::vector<BrokenLine>& lines);
   bool IsBold(std::size_t row, std::size_t column) const;
-  float SizeForWords(std::string_view text, const Font& font, double room);
+  float SizeForWords(const CellText& cell);
 
   TextRuler& ruler_;
   const Table& table_;
+  double givenUp_ = 0;  ///< share of an empty row's spare height
 };
 
 }  // namespace norvane::pages

@@ -7,7 +7,7 @@
 
 namespace norvane::pages {
 
-/// The part of a table that stands on one page.
+/// The part of a table on one page.
 struct TablePart {
   double left = 0;
   std::vector<double> edges;  ///< the upper edge, then each row's lower one

@@ -5,7 +5,7 @@
 namespace norvane::pages {
 namespace {
 
-// Letters up to the Armenian ones stand side by side without shaping, and so do the punctuation and currency signs of
+// Letters up to the Armenian ones need no shaping, nor do the punctuation and currency signs of
 // the second block.
 constexpr char32_t kEndOfLetters = 0x590;
 constexpr char32_t kFirstSign = 0x2000;
@@ -44,7 +44,7 @@ double TextRuler::Width(Face face, std::string_view text) {
     const Character character = CharacterAt(text, place);
     const std::size_t slot = SlotOf(character.code);
     if (slot == kNoSlot) return metrics_.Advance(face, text);
-    // Tabs and their like are set as blanks.
+    // Tabs and other control characters are drawn as spaces.
     if (widths[slot] < 0) {
       const std::string_view shown = slot < ' ' ? " " : text.substr(place, character.length);
       widths[slot] = static_cast<float>(metrics_.Advance(face, shown));

@@ -9,7 +9,7 @@
 namespace norvane::pages {
 
 /// Measures text for one layout, in fractions of the font's size. The widths of characters that need no shaping are
-/// asked for once and added up: asking the device's fonts for every cell would take longer than all the rest.
+/// read once and added up: asking the device's fonts for every cell would take longer than all the rest.
 class TextRuler {
  public:
   explicit TextRuler(const FontMetrics& metrics);

@@ -63,9 +63,10 @@ TEST_F(PageFixture, KeepsForeignAndDamagedTextWhole) {
   }
 }
 
-TEST_F(PageFixture, TextBoxesStandWhereTheyAreSetAndTheTextBelowTheLowest) {
+TEST_F(PageFixture, TextBoxesAreWhereTheyAreSetAndTheTextBelowTheLowest) {
   report.SetAlignment(Alignment::Centre);
-  report.WriteTextBox("never wrapped, never clipped, whatever the width of its box", "3in", "2in", "1in", ".25in");
+  report.WriteTextBox("WWWWWWWWWW\nW", "3in", "2in", "1in", ".25in");
+  report.WriteTextBox(std::string(20, 'W'), "3in", "1.5in", "1in", ".25in");
   report.WriteTextBox("right of it", "5in", "1in", "1in", "0.5in");
   report.SetAlignment(Alignment::Left);
   report.WriteParagraph("below");
@@ -76,7 +77,9 @@ TEST_F(PageFixture, TextBoxesStandWhereTheyAreSetAndTheTextBelowTheLowest) {
   report.WriteParagraph("only this page counts");
   EXPECT_EQ(Text(),
             "page 1/2\n"
-            "text 1.45in 2.00in 11.25pt \"never wrapped, never clipped, whatever the width of its box\"\n"
+            "text 3.02in 2.05in 7.25pt \"WWWWWWWWWW\"\n"
+            "text 3.43in 2.17in 11.25pt \"W\"\n"
+            "text 3.00in 1.57in 6pt \"WWWWWWWWWWWW…\"\n"
             "text 5.20in 1.00in 11.25pt \"right of it\"\n"
             "text 0.50in 2.25in 11.25pt \"below\"\n"
             "text 0.50in 2.25in 11.25pt \"below again\"\n"

@@ -131,7 +131,7 @@ TEST_F(Tables, ASetHeightIsKeptWhileTextFitsOrCanShrinkToTwoLines) {
   const auto nextRowAt = [&](const std::string& notes) {
     report.StartDocument();
     Start(TableBorder::None);
-    Add("|" + notes + "|;next;");
+    Add("1/2/2026|" + notes + "|;next;");
     report.SetTableRowHeight(1, "0.25in");
     report.EndTable();
     const Pages pages = Laid();
@@ -141,6 +141,7 @@ TEST_F(Tables, ASetHeightIsKeptWhileTextFitsOrCanShrinkToTwoLines) {
   EXPECT_NEAR(nextRowAt("one line"), 18, 0.01);
   EXPECT_NEAR(nextRowAt("two\nlines"), 18, 0.01);
   EXPECT_THAT(Text(), HasSubstr("7.25pt \"lines\""));
+  EXPECT_THAT(Text(), HasSubstr("11.25pt \"1/2/2026\"")) << "only the cell that does not fit";
   EXPECT_NEAR(nextRowAt("and\nthree\nlines"), 3 * 7 * 1.117 + 1, 0.01);
   EXPECT_THAT(Text(), HasSubstr("7pt \"three\""));
 }
@@ -170,6 +171,51 @@ TEST_F(Tables, ForcesItsRowsAndPassesOverCellsThatDoNotExist) {
   EXPECT_THAT(text, Not(HasSubstr("row 3")));
   EXPECT_EQ(Count(text, "bold"), 2u);
   EXPECT_NEAR(pages.pages[0].lines[1].y1, 36 + 5 * (11.25 * 1.117 + 1), 0.01);
+}
+
+// 4.9 inches, the form and the totals are 38.2 points more than the page holds; an empty row can spare 4.43.
+TEST_F(Tables, EmptyRowsOfAFormMakeRoomForTheTotalsBelow) {
+  const auto laidWith = [&](int rows) {
+    report.StartDocument();
+    report.WriteTextBox("", "1in", "0in", "1in", "4.9in");
+    Start(TableBorder::Grid);
+    AddRows(rows);
+    report.SetTableRows(20);
+    for (int row = 1; row <= 20; ++row) report.SetTableRowHeight(row, "0.25in");
+    report.EndTable();
+    Start(TableBorder::Totals);
+    AddRows(4);
+    report.EndTable();
+    return Laid();
+  };
+  const Pages pages = laidWith(5);
+  ASSERT_EQ(pages.pages.size(), 1u);
+  const std::vector<Line>& lines = pages.pages[0].lines;
+  EXPECT_NEAR(lines[9].y1, 456.37, 0.01) << "below the last row with text";
+  EXPECT_NEAR(lines[10].y1, 471.82, 0.01) << "below the first empty one";
+  EXPECT_NEAR(std::max_element(lines.begin(), lines.end(), [](auto& a, auto& b) { return a.y2 < b.y2; })->y2, 756,
+              0.01);
+  const Pages full = laidWith(23);
+  ASSERT_EQ(full.pages.size(), 2u);
+  EXPECT_EQ(full.pages[0].surplusRows, 3);
+}
+
+// After the empty line 41.4 points are left. The title would find room, but not with the beginning of its table.
+TEST_F(Tables, ABoldTitleStaysWithTheBeginningOfItsTable) {
+  for (const bool bold : {true, false}) {
+    report.StartDocument();
+    for (int i = 0; i < 53; ++i) report.WriteParagraph("x");
+    report.SetBold(bold);
+    for (const char* text : {"", "Title", ""}) report.WriteParagraph(text);
+    report.SetBold(false);
+    Start(TableBorder::List);
+    AddRows(1);
+    report.EndTable();
+    const Pages pages = Laid();
+    ASSERT_EQ(pages.pages.size(), 2u);
+    EXPECT_EQ(pages.pages[0].TextOf(pages.pages[0].runs.back()), bold ? "x" : "Title");
+    EXPECT_EQ(pages.pages[1].TextOf(pages.pages[1].runs.front()), bold ? "Title" : "Date");
+  }
 }
 
 TEST_F(Tables, TheFirstCallFixesFormatAndHeadingAndTheEndThePlace) {

@@ -81,6 +81,18 @@ TEST_F(PrtInvoiceTest, PrintsFromNoLinesUpToTwentyOfTwentyOne) {
   ExpectPage("prt_invoice_21_lines.txt");
 }
 
+TEST_F(PrtInvoiceTest, OnlyAFullFormMovesTheTotalsOverThePageBelowALongDescription) {
+  database.Execute("UPDATE tb_Invoice SET Description = 'first' || char(10) || 'second'");
+  EXPECT_EQ(PagesOf(Open<PrtInvoice>().VSInvoice).pages.size(), 1u);
+  program.screens.Unload("PrtInvoice");
+  for (int line = 1; line <= 22; ++line) AddLine("1", "10000");
+  Preview& preview = Open<PrtInvoice>().VSInvoice;
+  ASSERT_EQ(PagesOf(preview).pages.size(), 2u);
+  EXPECT_THAT(TextOf(preview), HasSubstr("page 2/2\ntext 6.46in 0.25in 14.25pt Courier New \"Invoice #1001\"\n"
+                                         "text 6.20in 0.51in 11.25pt \"SubTotal\""));
+  EXPECT_EQ(preview.SurplusRows(), 2);
+}
+
 TEST_F(PrtInvoiceTest, PrintsBackOrders) {
   AddLine("5", "50000", "three short", "'-3'");
   AddLine("5", "50000", "none", "'0'");

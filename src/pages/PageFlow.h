@@ -17,15 +17,15 @@ struct Body {
   double Place(Alignment alignment, double width) const;
 };
 
-/// The left edge of something between two edges.
+/// The left edge of something `width` wide between two edges.
 double Aligned(Alignment alignment, double left, double right, double width);
 
-/// A document's pages in the making: the current position, and the way to the next page.
-class Flow {
+/// Fills a document's pages one after another: keeps the current position and begins new pages.
+class PageFlow {
  public:
-  Flow(const Document& document, const FontMetrics& metrics);
-  Flow(const Flow&) = delete;
-  Flow& operator=(const Flow&) = delete;
+  PageFlow(const Document& document, const FontMetrics& metrics);
+  PageFlow(const PageFlow&) = delete;
+  PageFlow& operator=(const PageFlow&) = delete;
 
   const Body& Area() const { return body_; }
   TextRuler& Ruler() { return ruler_; }
@@ -34,11 +34,13 @@ class Flow {
   double Position() const { return position_; }
   void Advance(double height) { position_ += height; }
   double Room() const { return body_.bottom - position_; }
-  /// Whether something so high must go to the next page. What is higher than a page stays on one that is empty.
+  /// Whether something of this height has to go to the next page. What is higher than a page stays on an empty one.
   bool NeedsNewPage(double height) const;
+  /// Goes to the next page if what follows, of this height, fits there and not here.
+  void KeepTogether(double height);
 
   void NewPage();
-  /// The position goes to the lowest box of the page.
+  /// Moves the position to the lowest edge of all boxes of the page.
   void ContinueBelowBox(double bottom);
   /// Ends the last page.
   Pages Finish();

@@ -1,4 +1,4 @@
-#include "pages/Flow.h"
+#include "pages/PageFlow.h"
 
 #include <algorithm>
 
@@ -26,7 +26,7 @@ double Body::Place(Alignment alignment, double width) const {
   return Aligned(alignment, left, right, width);
 }
 
-Flow::Flow(const Document& document, const FontMetrics& metrics)
+PageFlow::PageFlow(const Document& document, const FontMetrics& metrics)
     : ruler_(metrics),
       writer_(ruler_),
       body_(BodyOf(document.margins)),
@@ -35,11 +35,15 @@ Flow::Flow(const Document& document, const FontMetrics& metrics)
   NewPage();
 }
 
-bool Flow::NeedsNewPage(double height) const {
+bool PageFlow::NeedsNewPage(double height) const {
   return height > Room() + kTolerance && position_ > body_.top;
 }
 
-void Flow::NewPage() {
+void PageFlow::KeepTogether(double height) {
+  if (height <= body_.Height() && NeedsNewPage(height)) NewPage();
+}
+
+void PageFlow::NewPage() {
   if (writer_.HasPage()) EndPage();
   writer_.NewPage();
   header_.WriteOn(writer_, kHeadFromEdge);
@@ -47,17 +51,17 @@ void Flow::NewPage() {
   lowestBox_ = 0;
 }
 
-void Flow::ContinueBelowBox(double bottom) {
+void PageFlow::ContinueBelowBox(double bottom) {
   lowestBox_ = std::max(lowestBox_, bottom);
   position_ = lowestBox_;
 }
 
-Pages Flow::Finish() {
+Pages PageFlow::Finish() {
   EndPage();
   return writer_.TakePages();
 }
 
-void Flow::EndPage() {
+void PageFlow::EndPage() {
   footer_.WriteOn(writer_, kPageHeight - kHeadFromEdge - ruler_.LineHeight(footer_.UsedFont()));
 }
 

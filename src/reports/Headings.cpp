@@ -39,7 +39,7 @@ CompanyHeading TakeCompanyHeading(const Object<cSetup>& setup) {
   return company;
 }
 
-// Without phone or fax the slash between them stands all the same; Address2 isn't printed.
+// Without phone or fax the slash between them remains; Address2 isn't printed.
 void WriteCompanyHeading(pages::DocumentBuilder& document, const CompanyHeading& company,
                          const std::string& firstLine) {
   document.SetAlignment(pages::Alignment::Centre);
@@ -58,10 +58,22 @@ void WriteAddress(pages::DocumentBuilder& document, const char* title, const cha
                         left, "1.75in", "3.5in", "1.25in");
 }
 
+void ReadClient(const Object<Client>& client, std::int32_t custNum) {
+  client->OpenCn();
+  client->GetClient(custNum);
+  client->CloseCn();
+}
+
 void WriteBillTo(pages::DocumentBuilder& document, const Client& client) {
   WriteAddress(document, "Bill To:", "0.5in",
                {client.BillFname, client.BillLname, client.BillAddress1, client.Billcity, client.BillState,
                 client.BillZipCode, client.BillHomePhone});
+}
+
+void WriteStatementHead(pages::DocumentBuilder& document, const CompanyHeading& company, const Client& client) {
+  WriteCompanyHeading(document, company, company.Name);
+  WriteBillTo(document, client);
+  document.WriteParagraph("");
 }
 
 }  // namespace norvane

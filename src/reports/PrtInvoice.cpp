@@ -19,6 +19,7 @@ constexpr TableKind kLineTable{pages::TableBorder::Grid, "^0.75in|^0.75in|^0.75i
 }  // namespace
 
 struct PrtInvoice::Order {
+  std::int32_t CustNum = 0;
   std::string description;
   Date InvoiceDate;
   std::string SalesRep, ShippingType, Terms;
@@ -34,15 +35,15 @@ PrtInvoice::PrtInvoice(Program& host) : VSInvoiceReport(host, kName, "Print Invo
 void PrtInvoice::Form_Load() {
   Build("PrtInvoice.Form_Load -", [this] {
     const std::string number = std::to_string(globals.CurInvoiceNum);
-    VSInvoice.SetTitle("Invoice " + number);
     const CompanyHeading company = TakeCompanyHeading(globals.oSetup);
-    ReadClient();
     const Order order = ReadOrder();
-    StartReport();
+    const Object<Client> client = globals.oClient;
+    ReadClient(client, order.CustNum);
+    StartReport("Invoice " + number);
     VSInvoice.SetHeader("||Invoice #" + number);
     WriteCompanyHeading(VSInvoice, company, "Remit to: " + company.Name);
-    WriteBillTo(VSInvoice, *globals.oClient);
-    WriteShipTo(*globals.oClient);
+    WriteBillTo(VSInvoice, *client);
+    WriteShipTo(*client);
     VSInvoice.WriteParagraph("");
     VSInvoice.WriteParagraph("Description: " + order.description);
     VSInvoice.WriteParagraph("");
@@ -53,20 +54,25 @@ void PrtInvoice::Form_Load() {
   });
 }
 
-void PrtInvoice::ReadClient() {
-  globals.oClient->OpenCn();
-  globals.oClient->GetClient(globals.CurCustNum);
-  globals.oClient->CloseCn();
-}
-
-// The shipping charge is rounded to cents here and nowhere else, so the printed total may differ from the client's
-// balance in the last place.
+// An invoice is made out to its own client, whatever client is selected; one that is gone to the client selected. The
+// shipping charge is rounded to cents here and nowhere else, so the printed total may differ from the client's balance
+// in the last place.
 PrtInvoice::Order PrtInvoice::ReadOrder() {
   const Object<Invoice> invoice = globals.oInvoice;
   invoice->OpenCn();
   invoice->GetInvoice(globals.CurInvoiceNum);
-  Order order{invoice->description, invoice->InvoiceDate,    invoice->SalesRep, invoice->ShippingType, invoice->Terms,
-              invoice->Discount,    invoice->ShippingCharge, invoice->Tax,      invoice->Interest,     {}};
+  const bool exists = !invoice->CustNum.Text().empty();
+  Order order{exists ? invoice->CustNum : globals.CurCustNum,
+              invoice->description,
+              invoice->InvoiceDate,
+              invoice->SalesRep,
+              invoice->ShippingType,
+              invoice->Terms,
+              invoice->Discount,
+              invoice->ShippingCharge,
+              invoice->Tax,
+              invoice->Interest,
+              {}};
   order.lines = invoice->GetInvoiceItems(globals.CurInvoiceNum);
   invoice->CloseCn();
   order.ShippingCharge = convert.ToCurrency(convert.CurrencyText(order.ShippingCharge));
@@ -81,54 +87,51 @@ void PrtInvoice::WriteShipTo(const Client& client) {
 }
 
 void PrtInvoice::WriteOrderTable(const Order& order) {
-  StartTable(VSInvoice, kOrderTable);
-  AddRow(VSInvoice, kOrderTable, {convert.ToText(order.InvoiceDate), order.ShippingType, order.SalesRep, order.Terms});
-  VSInvoice.SetTableBold(0, 1, 0, 4);
-  VSInvoice.EndTable();
+  ReportTable table(VSInvoice, convert, kOrderTable);
+  table.Row(order.InvoiceDate, order.ShippingType, order.SalesRep, order.Terms);
+  table.Bold(0, 4);
+  table.End();
   VSInvoice.WriteParagraph("");
 }
 
 /// Returns the sum of all lines, those that the form has no room for included.
 Currency PrtInvoice::WriteLineTable(Recordset& lines) {
   Currency subTotal;
-  StartTable(VSInvoice, kLineTable);
+  ReportTable table(VSInvoice, convert, kLineTable);
   if (lines.RecordCount() > 0) lines.MoveFirst();
   for (; !lines.Eof(); lines.MoveNext()) {
-    WriteLine(lines);
+    WriteLine(table, lines);
     subTotal += lines.Currency("amount");
   }
-  EndFormTable(VSInvoice);
+  table.EndForm();
   return subTotal;
 }
 
-void PrtInvoice::WriteLine(const Recordset& line) {
+void PrtInvoice::WriteLine(ReportTable& table, const Recordset& line) {
   const Value quantity = line.Field("Qty");
   Currency unitCharge;
   if (!IsNull(quantity) && convert.ToDouble(quantity) > 0) {
     unitCharge = convert.ToCurrency(Divide(line.Field("amount"), quantity, convert));
   }
   const double backOrder = std::abs(Val(line.Text("BackOrder")));
-  AddRow(
-      VSInvoice, kLineTable,
-      {convert.ToText(quantity), backOrder == 0 ? "" : convert.ToText(backOrder), convert.ToText(line.Field("ItemNum")),
-       line.Text("Notes"), convert.CurrencyText(unitCharge), convert.CurrencyText(line.Field("amount"))});
+  table.Row(quantity, backOrder == 0 ? "" : convert.ToText(backOrder), line.Field("ItemNum"), line.Field("Notes"),
+            Money{unitCharge}, Money{line.Field("amount")});
 }
 
-// The discount is shown as it was reckoned, but rounded to four decimals before it goes into the total.
+// The discount is shown as computed, but rounded to four decimals before it goes into the total.
 void PrtInvoice::WriteTotals(const Order& order, Currency subTotal) {
   const double discount = subTotal.ToDouble() * (order.Discount / 100);
   const Currency total = subTotal - Currency::FromDouble(discount) + order.Interest + order.Tax + order.ShippingCharge;
   const std::string heading = "SubTotal|" + convert.CurrencyText(subTotal) + ";";
-  const TableKind table{pages::TableBorder::Totals, ">1.125in|>1.125in;", heading};
-  StartTable(VSInvoice, table);
+  ReportTable table(VSInvoice, convert, {pages::TableBorder::Totals, ">1.125in|>1.125in;", heading});
   VSInvoice.SetAlignment(pages::Alignment::Right);
-  AddRow(VSInvoice, table, {"Discount:", convert.CurrencyText(discount)});
-  AddRow(VSInvoice, table, {"Interest:", convert.CurrencyText(order.Interest)});
-  AddRow(VSInvoice, table, {"Sales Tax:", convert.CurrencyText(order.Tax)});
-  AddRow(VSInvoice, table, {"Shipping:", convert.CurrencyText(order.ShippingCharge)});
-  AddRow(VSInvoice, table, {"Total:", convert.CurrencyText(total)});
-  VSInvoice.SetTableBold(5, 1, 5, 2);
-  VSInvoice.EndTable();
+  table.Row("Discount:", Money{discount});
+  table.Row("Interest:", Money{order.Interest});
+  table.Row("Sales Tax:", Money{order.Tax});
+  table.Row("Shipping:", Money{order.ShippingCharge});
+  table.Row("Total:", Money{total});
+  table.Bold(5, 2);
+  table.End();
 }
 
 }  // namespace norvane

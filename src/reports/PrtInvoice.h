@@ -6,8 +6,9 @@ namespace norvane {
 
 class Client;
 class Recordset;
+class ReportTable;
 
-/// Prints the invoice CurInvoiceNum of the client CurCustNum on one form-like page.
+/// Prints the invoice CurInvoiceNum on one form-like page.
 class PrtInvoice : public VSInvoiceReport {
  public:
   static constexpr const char* kName = "PrtInvoice";
@@ -17,12 +18,11 @@ class PrtInvoice : public VSInvoiceReport {
   struct Order;
 
   void Form_Load() override;
-  void ReadClient();
   Order ReadOrder();
   void WriteShipTo(const Client& client);
   void WriteOrderTable(const Order& order);
   Currency WriteLineTable(Recordset& lines);
-  void WriteLine(const Recordset& line);
+  void WriteLine(ReportTable& table, const Recordset& line);
   void WriteTotals(const Order& order, Currency subTotal);
 };
 

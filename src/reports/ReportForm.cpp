@@ -7,13 +7,14 @@ namespace {
 // A page at 100 percent shows in its whole width.
 constexpr Twips kFirstWidth = 13'200;
 constexpr Twips kFirstHeight = 11'400;
+/// Room for a date with its picker and label.
+constexpr Twips kFrameWidth = 4'600;
 
 }  // namespace
 
-ReportForm::ReportForm(Program& host, std::string name, std::string caption, std::string previewName, ButtonStyle exit)
+ReportForm::ReportForm(Program& host, std::string name, std::string caption, ButtonStyle exit)
     : Form(host, std::move(name), {.caption = std::move(caption), .width = kFirstWidth, .height = kFirstHeight}),
-      btnExit(*this, "btnExit", std::move(exit)),
-      preview_(*this, std::move(previewName)) {
+      btnExit(*this, "btnExit", std::move(exit)) {
   SetExitButton(btnExit);
   btnExit.Click = [this] { btnExit_Click(); };
 }
@@ -21,7 +22,7 @@ ReportForm::ReportForm(Program& host, std::string name, std::string caption, std
 void ReportForm::SetReportLayout(layout::Nodes strip, layout::Nodes beside) {
   strip.push_back(layout::Space());
   strip.push_back(btnExit);
-  layout::Nodes body{layout::Stretch(preview_)};
+  layout::Nodes body{layout::Stretch(Viewer())};
   body.insert(body.end(), beside.begin(), beside.end());
   SetLayout(layout::Column({layout::Strip(std::move(strip)), layout::Stretch(layout::Row(std::move(body)))}));
 }
@@ -31,16 +32,42 @@ void ReportForm::ShowNotice(std::string_view name) {
   desktop.DoEvents();
 }
 
-void ReportForm::StartReport(const ReportMargins& margins) {
-  if (!IsVisible()) preview_.SetFocus();
-  preview_.SetPageSetting(1);
-  preview_.SetZoom(100.0);
-  preview_.SetMargins(margins.left, margins.right, margins.top, margins.bottom);
-  preview_.StartDocument();
+void ReportForm::StartReport(std::string title, const ReportMargins& margins) {
+  Preview& document = Viewer();
+  if (!IsVisible()) document.SetFocus();
+  document.SetTitle(std::move(title));
+  document.SetPageSetting(1);
+  document.SetZoom(100.0);
+  document.SetMargins(margins.left, margins.right, margins.top, margins.bottom);
+  document.StartDocument();
+}
+
+void ReportForm::StartList(std::string title, const std::string& header, const ListStyle& style) {
+  StartReport(std::move(title), style.margins);
+  Viewer().SetAlignment(pages::Alignment::Centre);
+  Viewer().SetHeader(header);
+  Viewer().SetFontSize(style.fontSize);
 }
 
 std::string ReportForm::ListHeader(const std::string& title) const {
   return title + "|" + globals.CoName + "|" + convert.ToText(desktop.Today());
+}
+
+void ReportForm::WriteGroupTitle(const std::string& text) {
+  Viewer().SetBold(true);
+  for (const std::string& line : {std::string(), std::string(), text, std::string()}) Viewer().WriteParagraph(line);
+  Viewer().SetBold(false);
+}
+
+void ReportForm::WriteGrandTotal(const std::string& label, Currency amount) {
+  Viewer().WriteParagraph("");
+  Viewer().SetBold(true);
+  Viewer().WriteParagraph(label + convert.CurrencyText(amount));
+}
+
+void ReportForm::NothingToPrint(const std::string& text) {
+  desktop.Say(text);
+  Unload();
 }
 
 void ReportForm::btnExit_Click() {
@@ -50,7 +77,7 @@ void ReportForm::btnExit_Click() {
 // A window too small for its controls leaves them as they are: what doesn't fit raises an error, which is passed over.
 
 VSInvoiceReport::VSInvoiceReport(Program& host, std::string name, std::string caption)
-    : ReportForm(host, std::move(name), std::move(caption), "VSInvoice", {.caption = "&Exit"}) {}
+    : ReportForm(host, std::move(name), std::move(caption), {.caption = "&Exit"}) {}
 
 void VSInvoiceReport::Form_Resize() {
   IgnoringErrors([this] { VSInvoice.SetWidth(Width() - 170); }, [this] { VSInvoice.SetHeight(Height() - 650); },
@@ -61,23 +88,20 @@ void VSInvoiceReport::Form_Resize() {
 
 // The tooltip is the same on all of these reports, whatever they print.
 VSregistryReport::VSregistryReport(Program& host, std::string name, std::string caption)
-    : ReportForm(host, std::move(name), std::move(caption), "VSregistry",
-                 {.toolTip = "Exit Vendor Payments", .icon = "exit"}) {}
+    : ReportForm(host, std::move(name), std::move(caption), {.toolTip = "Exit Vendor Payments", .icon = "exit"}) {}
+
+void VSregistryReport::SetFramedLayout(Frame& frame, layout::Node criteria) {
+  frame_ = &frame;
+  frame.SetWidth(kFrameWidth);
+  SetWidth(Width() + frame.Width());
+  SetReportLayout({}, {layout::Group(frame, std::move(criteria))});
+}
 
 void VSregistryReport::Form_Resize() {
-  ResizePreview(0);
+  IgnoringErrors([this] { VSregistry.SetWidth(Width() - (frame_ ? frame_->Width() : 0) - 250); },
+                 [this] { VSregistry.SetLeft(25); }, [this] { VSregistry.SetHeight(Height() - 800); });
+  if (frame_) frame_->SetLeft(VSregistry.Width() + VSregistry.Left() + 25);
   btnExit.SetLeft(Width() - 1000);
-}
-
-void VSregistryReport::ResizeBeside(Frame& frame) {
-  ResizePreview(frame.Width());
-  frame.SetLeft(VSregistry.Width() + VSregistry.Left() + 25);
-  btnExit.SetLeft(Width() - 1000);
-}
-
-void VSregistryReport::ResizePreview(Twips rightOfIt) {
-  IgnoringErrors([&] { VSregistry.SetWidth(Width() - rightOfIt - 250); }, [&] { VSregistry.SetLeft(25); },
-                 [&] { VSregistry.SetHeight(Height() - 800); });
 }
 
 }  // namespace norvane

@@ -1,7 +1,5 @@
 #include "reports/ReportTable.h"
 
-#include <string>
-
 namespace norvane {
 
 namespace {
@@ -9,30 +7,48 @@ namespace {
 constexpr int kFormRows = 20;
 constexpr int kMostFormColumns = 6;
 
-std::string RowText(std::initializer_list<std::string_view> cells) {
-  std::string row;
-  for (const std::string_view cell : cells) row.append(cell) += '|';
-  if (!row.empty()) row.back() = ';';
-  return row;
-}
-
 }  // namespace
 
-void StartTable(pages::DocumentBuilder& document, const TableKind& kind) {
-  document.StartTable();
-  document.SetTableBorder(kind.border);
-  document.AddTable(kind.format, kind.heading, "");
+ReportTable::ReportTable(pages::DocumentBuilder& document, const Conversions& convert, const TableKind& kind)
+    : document_(document), convert_(convert), kind_(kind) {
+  document_.StartTable();
+  document_.SetTableBorder(kind_.border);
+  Raw("");
 }
 
-void AddRow(pages::DocumentBuilder& document, const TableKind& kind, std::initializer_list<std::string_view> cells) {
-  document.AddTable(kind.format, kind.heading, RowText(cells));
+void ReportTable::EndRow() {
+  row_.back() = ';';
+  Raw(row_);
+  row_.clear();
+  ++rowCount_;
 }
 
-void EndFormTable(pages::DocumentBuilder& document) {
-  document.SetTableRows(kFormRows);
-  for (int row = 1; row <= kFormRows; ++row) document.SetTableRowHeight(row, "0.25in");
-  document.SetTableBold(0, 1, 0, kMostFormColumns);
-  document.EndTable();
+void ReportTable::Raw(std::string_view body) {
+  document_.AddTable(kind_.format, kind_.heading, body);
+}
+
+void ReportTable::Bold(int row, int columns) {
+  document_.SetTableBold(row, 1, row, columns);
+}
+
+void ReportTable::End() {
+  document_.EndTable();
+}
+
+void ReportTable::EndList(std::string_view rowHeight) {
+  SetRowHeights(rowCount_, rowHeight);
+  End();
+}
+
+void ReportTable::EndForm() {
+  document_.SetTableRows(kFormRows);
+  SetRowHeights(kFormRows, "0.25in");
+  Bold(0, kMostFormColumns);
+  End();
+}
+
+void ReportTable::SetRowHeights(int rows, std::string_view height) {
+  for (int row = 1; row <= rows; ++row) document_.SetTableRowHeight(row, height);
 }
 
 }  // namespace norvane

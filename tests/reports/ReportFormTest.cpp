@@ -1,7 +1,6 @@
 #include "ReportOffice.h"
-#include "forms/DatePair.h"
 #include "reports/Headings.h"
-#include "reports/ReportForm.h"
+#include "reports/PeriodReport.h"
 #include "reports/ReportTable.h"
 
 namespace norvane::test {
@@ -10,37 +9,32 @@ namespace {
 constexpr const char* kNotice = "LoadingClients";
 
 /// A report with criteria beside it. It goes on only with a number in LedgerFieldValue.
-class Criteria : public VSregistryReport {
+class Criteria : public PeriodReport {
  public:
   static constexpr const char* kName = "Criteria";
-  explicit Criteria(Program& host) : VSregistryReport(host, kName, "Print Criteria") {
-    Frame1.SetWidth(2800);
-    SetReportLayout({}, {layout::Group(Frame1, layout::Column({DateField("Since:", txtSinceDate, DTPicker1), btnGo}))});
-    WritePickedDate(DTPicker1, txtSinceDate);
-    btnGo.Click = [this] { Build("Criteria.btnGo_Click -", [this] { ListPreview(); }); };
+  explicit Criteria(Program& host) : PeriodReport(host, kName, "Print Criteria") {
+    SetFramedLayout(Frame1, layout::Column({BeginningField("Since:"), EndingField("To:"), btnGo}));
   }
 
   Frame Frame1{*this, "Frame1", "Print"};
-  MaskedBox txtSinceDate{*this, "txtSinceDate"};
-  DatePicker DTPicker1{*this, "DTPicker1"};
-  Button btnGo{*this, "btnGo", {.caption = "&Preview"}};
 
  private:
   void Form_Load() override {
     Build("Criteria.Form_Load -", [this] {
       ShowNotice(kNotice);
-      SetDates(DTPicker1, txtSinceDate, Date::FromYearMonthDay(2025, 1, 1));
+      SetPeriod(Date::FromYearMonthDay(2025, 1, 1), desktop.Today());
       ListPreview();
       screens.Unload(kNotice);
     });
   }
-  void Form_Resize() override { ResizeBeside(Frame1); }
+  void btnGo_Click() override {
+    Build("Criteria.btnGo_Click -", [this] { ListPreview(); });
+  }
 
   void ListPreview() {
     VSregistry.Clear();
-    StartReport({.top = "0.25in"});
-    VSregistry.SetHeader(ListHeader("Criteria"));
-    VSregistry.WriteParagraph("Since " + convert.ToText(convert.ToDateFromMask(txtSinceDate.Text())));
+    StartList("Criteria", ListHeader("Criteria"), {.margins = {.top = "0.25in"}});
+    VSregistry.WriteParagraph("Since " + convert.ToText(convert.ToDateFromMask(txtBegDate.Text())));
     VSregistry.WriteParagraph(convert.ToText(convert.ToLong(globals.LedgerFieldValue)));
     VSregistry.EndDocument();
   }
@@ -57,11 +51,11 @@ class Receipt : public VSInvoiceReport {
     Build("Receipt.Form_Load -", [this] {
       const CompanyHeading company = TakeCompanyHeading(globals.oSetup);
       constexpr TableKind kTable{pages::TableBorder::Grid, "1in|1in;", "A|B;"};
-      StartReport();
+      StartReport("Receipt");
       WriteCompanyHeading(VSInvoice, company, company.Name);
-      StartTable(VSInvoice, kTable);
-      AddRow(VSInvoice, kTable, {"a", "b"});
-      EndFormTable(VSInvoice);
+      ReportTable table(VSInvoice, convert, kTable);
+      table.Row("a", "b");
+      table.EndForm();
       VSInvoice.EndDocument();
     });
   }
@@ -113,14 +107,14 @@ TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
 
 TEST_F(ReportFormTest, TheTwoHalvesOfADateGoTheirOwnWaysAfterTyping) {
   Criteria& report = Open<Criteria>();
-  EXPECT_EQ(report.txtSinceDate.Text(), "01/01/25");
-  report.txtSinceDate.UserType("03/04/26");
-  EXPECT_EQ(report.DTPicker1.Value(), Date::FromYearMonthDay(2025, 1, 1));
+  EXPECT_EQ(report.txtBegDate.Text(), "01/01/25");
+  report.txtBegDate.UserType("03/04/26");
+  EXPECT_EQ(report.DTbegdate.Value(), Date::FromYearMonthDay(2025, 1, 1));
   report.btnGo.Press();
   EXPECT_THAT(WordsOf(report.VSregistry), Contains("Since 3/4/2026"));
-  report.DTPicker1.UserPick(Date::FromYearMonthDay(2024, 12, 31));
-  EXPECT_EQ(report.txtSinceDate.Text(), "12/31/24");
-  report.txtSinceDate.UserType("02/30/26");
+  report.DTbegdate.UserPick(Date::FromYearMonthDay(2024, 12, 31));
+  EXPECT_EQ(report.txtBegDate.Text(), "12/31/24");
+  report.txtBegDate.UserType("02/30/26");
   desktop.Expect("Criteria.btnGo_Click -13");
   report.btnGo.Press();
 }
@@ -138,12 +132,13 @@ TEST_F(ReportFormTest, ResizesByTheRuleOfItsKind) {
   EXPECT_THAT(placesOf(receipt, receipt.VSInvoice), ElementsAre(0, 829, 7350, 9000)) << "what is too small stays";
 
   Criteria& criteria = Open<Criteria>();
-  criteria.UserResize(10'000, 8'000);
-  EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 6950, 7200, 9000));
-  EXPECT_EQ(criteria.Frame1.Left(), 7000);
-  criteria.UserResize(3'000, 700);
-  EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 6950, 7200, 2000));
-  EXPECT_EQ(criteria.Frame1.Left(), 7000);
+  const Twips frame = criteria.Frame1.Width();
+  EXPECT_EQ(criteria.Width(), 13'200 + frame) << "it opens wide enough for page and frame";
+  criteria.UserResize(10'000 + frame, 8'000);
+  EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 9750, 7200, 9000 + frame));
+  EXPECT_EQ(criteria.Frame1.Left(), 9800);
+  criteria.UserResize(200 + frame, 700);
+  EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 9750, 7200, frame - 800));
 }
 
 TEST_F(ReportFormTest, TheCompanysLinesBearTheirPrefixesAndTheSlashStaysAlone) {

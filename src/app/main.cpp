@@ -1,15 +1,16 @@
-#include <QApplication>
 #include <QIcon>
 
+#include "app/Application.h"
 #include "app/ApplicationFolder.h"
 #include "app/Composition.h"
 #include "core/SystemRegion.h"
 #include "forms/Program.h"
+#include "forms/ScreenNames.h"
 #include "ui/QtDesktop.h"
 
 int main(int argc, char** argv) {
   const char* const startedAs = argv[0];
-  QApplication application(argc, argv);
+  norvane::Application application(argc, argv);
   QApplication::setApplicationName("norvanes");
   QApplication::setDesktopFileName("norvanes");
   QApplication::setWindowIcon(QIcon(":/norvanes/pictures/norvanes.svg"));
@@ -17,8 +18,9 @@ int main(int argc, char** argv) {
   const norvane::RegionalSettings settings = norvane::SystemRegionalSettings();
   norvane::ui::QtDesktop desktop(settings);
   norvane::Program program(desktop, settings, norvane::ApplicationFolder(startedAs));
+  application.ReportTo(desktop);
   norvane::Compose(program, desktop);
-  program.Start("Customer");
+  program.Start(norvane::screen::kCustomer);
   desktop.Run();
   return 0;
 }

@@ -7,7 +7,7 @@
 #include "core/Characters.h"
 #include "core/RuntimeError.h"
 #include "forms/Form.h"
-#include "forms/Grid.h"
+#include "forms/Keys.h"
 
 namespace norvane {
 

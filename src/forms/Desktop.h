@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@ enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Icon { None, Question, Information, Critical };
 enum class Answer { Ok, Yes, No, Cancel };
 enum class MousePointer { Default = 0, Hourglass = 11 };
+
+/// What the user sees of an exception that is no runtime error: a fault of the program's own.
+std::string InternalErrorText(const std::exception& error);
 
 struct Message {
   std::string text;

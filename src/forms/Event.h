@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <stdexcept>
 #include <utility>
 
 namespace norvane {
@@ -28,7 +29,8 @@ namespace detail {
 void RunAsEvent(Form& form, const std::function<void()>& body);
 }  // namespace detail
 
-/// An event with the one handler that its form gave it, if any.
+/// An event with the one handler that its form gave it, if any. A second handler is refused (std::logic_error) unless
+/// it says that it replaces the first.
 template <class... Args>
 class Event {
  public:
@@ -37,8 +39,14 @@ class Event {
 
   template <class Handler>
   Event& operator=(Handler handler) {
+    if (handler_) throw std::logic_error("The event has a handler already.");
     handler_ = std::move(handler);
     return *this;
+  }
+  /// Takes the place of the handler that the event has, if any.
+  template <class Handler>
+  void Replace(Handler handler) {
+    handler_ = std::move(handler);
   }
   bool HasHandler() const { return handler_ != nullptr; }
 

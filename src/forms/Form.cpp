@@ -29,6 +29,10 @@ std::string UntrappedErrorText(const RuntimeError& error) {
 
 }  // namespace
 
+std::string InternalErrorText(const std::exception& error) {
+  return std::string("Internal error: ") + error.what();
+}
+
 Form::Form(Program& program_, std::string name, FormStyle style)
     : program(program_),
       globals(program_.globals),
@@ -217,6 +221,8 @@ void Form::RunHandler(const std::function<void()>& body) {
       body();
     } catch (const RuntimeError& error) {
       desktop.Say(UntrappedErrorText(error));
+    } catch (const std::exception& error) {
+      desktop.Say(InternalErrorText(error));
     }
   }
   if (gone_ && handlers_ == 0) Terminate();

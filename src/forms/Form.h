@@ -16,6 +16,7 @@
 #include "forms/Layout.h"
 #include "forms/Menu.h"
 #include "forms/Program.h"
+#include "forms/ScreenNames.h"
 
 namespace norvane {
 
@@ -125,6 +126,28 @@ class Form {
   template <class Body>
   bool Trapped(std::string_view label, Body&& body) {
     return Trap(desktop, label, std::forward<Body>(body));
+  }
+  /// A handler that runs `body` under the standard trap.
+  template <class Body>
+  auto Trapping(std::string_view label, Body body) {
+    return [this, label, body = std::move(body)](auto... arguments) { Trapped(label, [&] { body(arguments...); }); };
+  }
+  /// Makes `opener`, a button or a menu entry, open a screen by `handler`; it is disabled where the program has no such
+  /// screen.
+  template <class Opener, class Handler>
+  void WireTo(Opener& opener, std::string_view screen, Handler handler) {
+    opener.Click = std::move(handler);
+    opener.SetEnabled(screens.Has(screen));
+  }
+  /// The same, where showing the screen is all.
+  template <class Opener>
+  void WireTo(Opener& opener, std::string_view screen) {
+    WireTo(opener, screen, [this, screen] { screens.Show(screen); });
+  }
+  /// The same for a screen that keeps nothing unsaved, so that it reads what is asked for now.
+  template <class Opener>
+  void WireToReopen(Opener& opener, std::string_view screen) {
+    WireTo(opener, screen, [this, screen] { screens.Reopen(screen); });
   }
   /// "Yes, No" with a question mark, No preselected.
   bool AskYesNo(const std::string& text, const std::string& title);

@@ -1,38 +1,16 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/Keys.h"
 
 namespace norvane {
-
-/// The platform's key codes, as KeyDown delivers them.
-enum class Key : int {
-  Tab = 9,
-  Enter = 13,
-  Escape = 27,
-  Space = 32,
-  PageUp = 33,
-  PageDown = 34,
-  End = 35,
-  Home = 36,
-  Left = 37,
-  Up = 38,
-  Right = 39,
-  Down = 40,
-  F2 = 113,
-  F4 = 115,
-};
-
-struct KeyModifiers {
-  bool shift = false;
-  bool control = false;
-  bool alt = false;
-};
 
 /// Lists only show rows; row-editing grids are edited in place.
 enum class GridKind { List, Editable };
@@ -41,7 +19,18 @@ enum class ColumnAlignment { General, Left, Centre, Right };
 /// What the cells of a column offer besides their text.
 enum class CellHelper { None, Button, DropDown, KeyedDropDown };
 
-/// Told of changes in a grid by whoever draws it. Every call comes after the change.
+/// One column as a grid is set up. The heading's first character may be the sign of its alignment: "<", "^" or ">".
+struct GridColumnSetup {
+  std::string_view heading;
+  Twips width;  ///< 0 hides the column
+  ColumnType type = ColumnType::Plain;
+  std::string_view list = {};  ///< as SetColComboList takes it; empty leaves the column's list as it is
+};
+
+/// A row for AddItem: the cells joined with tabs. A tab or line break within a cell becomes a space.
+std::string GridRow(std::initializer_list<std::string_view> cells);
+
+/// Implemented by the side that draws a grid; each function is called after the change.
 class GridObserver {
  public:
   virtual ~GridObserver() = default;
@@ -72,6 +61,8 @@ class Grid : public Control {
   void SetCols(int cols);
   /// "^Sel|Name|>Amount": number of columns, headings, alignment.
   void SetFormatString(std::string_view format);
+  /// Number of columns, headings, alignment, widths, types and lists in one call.
+  void SetColumns(std::initializer_list<GridColumnSetup> columns);
   void SetColWidth(int col, Twips width);  ///< 0 hides the column; it still holds text
   Twips ColWidth(int col) const;
   void SetColDataType(int col, ColumnType type);

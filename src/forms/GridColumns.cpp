@@ -95,6 +95,22 @@ void Grid::SetFormatString(std::string_view format) {
   if (view) view->ColumnsChanged();
 }
 
+void Grid::SetColumns(std::initializer_list<GridColumnSetup> columns) {
+  SetCols(static_cast<int>(columns.size()));
+  int col = 0;
+  for (const GridColumnSetup& setup : columns) {
+    GridColumn& column = model_->Column(col);
+    std::string_view heading = setup.heading;
+    column.alignment = TakeAlignment(heading);
+    model_->table.SetCell(0, col, heading);
+    column.width = setup.width;
+    column.type = setup.type;
+    if (!setup.list.empty()) SetColComboList(col, setup.list);
+    ++col;
+  }
+  if (view) view->ColumnsChanged();
+}
+
 void Grid::SetColWidth(int col, Twips width) {
   CheckCol(col);
   if (width < 0) Raise(ErrorNumber::InvalidProcedureCall);

@@ -8,6 +8,13 @@ namespace {
 
 constexpr char kSeparator = '\t';
 
+void AppendCell(std::string& row, std::string_view text) {
+  const auto begin = static_cast<std::ptrdiff_t>(row.size());
+  row += text;
+  std::replace_if(
+      row.begin() + begin, row.end(), [](char c) { return c == kSeparator || c == '\n' || c == '\r'; }, ' ');
+}
+
 /// Where the cell begins in its row, npos if the row is too short for it.
 std::size_t CellBegin(std::string_view row, int col) {
   std::size_t begin = 0;
@@ -55,8 +62,8 @@ std::string_view GridTable::Cell(int row, int col) const {
 }
 
 void GridTable::SetCell(int row, int col, std::string_view text) {
-  std::string content(text);
-  std::replace(content.begin(), content.end(), kSeparator, ' ');
+  std::string content;
+  AppendCell(content, text);
   auto& cells = rows_[static_cast<std::size_t>(row)];
   auto begin = CellBegin(cells, col);
   if (begin == std::string::npos) {
@@ -65,6 +72,15 @@ void GridTable::SetCell(int row, int col, std::string_view text) {
     begin = cells.size();
   }
   cells.replace(begin, CellEnd(cells, begin) - begin, content);
+}
+
+std::string GridRow(std::initializer_list<std::string_view> cells) {
+  std::string row;
+  for (const std::string_view& cell : cells) {
+    if (&cell != cells.begin()) row += kSeparator;
+    AppendCell(row, cell);
+  }
+  return row;
 }
 
 }  // namespace norvane

@@ -21,7 +21,7 @@ class GridTable {
 
   /// Good until the row changes.
   std::string_view Cell(int row, int col) const;
-  /// A tab within the text becomes a blank.
+  /// A tab or line break within the text becomes a space.
   void SetCell(int row, int col, std::string_view text);
 
  private:

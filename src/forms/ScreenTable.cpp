@@ -1,7 +1,6 @@
 #include "forms/ScreenTable.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "forms/Form.h"
 
@@ -10,7 +9,8 @@ namespace norvane {
 namespace {
 
 [[noreturn]] void FailUnknown(std::string_view name) {
-  throw std::logic_error("No screen or action is registered as " + std::string(name));
+  constexpr auto number = static_cast<std::int32_t>(ErrorNumber::InvalidProcedureCall);
+  throw RuntimeError(number, "The program has no screen or action named " + std::string(name) + ".");
 }
 
 }  // namespace
@@ -76,6 +76,16 @@ void ScreenTable::Show(std::string_view name, ShowOptions options) {
     form = Load(name);
   }
   if (form->loaded_) form->Appear(options);
+}
+
+void ScreenTable::Reopen(std::string_view name, ShowOptions options) {
+  Unload(name);
+  Show(name, options);
+}
+
+bool ScreenTable::Close(std::string_view name) const {
+  if (const auto form = Share(name)) form->UserClose();
+  return Share(name) == nullptr;
 }
 
 void ScreenTable::Unload(std::string_view name) {

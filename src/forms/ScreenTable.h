@@ -18,7 +18,7 @@ struct ShowOptions {
 };
 
 /// The one way from screen to screen. A screen is a single instance under its name: made and loaded at the first touch,
-/// gone from here when it is unloaded, made anew at the next touch.
+/// gone from here when it is unloaded, made again at the next touch. A name that no screen or action has raises 5.
 class ScreenTable {
  public:
   explicit ScreenTable(Program& program) : program_(program) {}
@@ -53,8 +53,13 @@ class ScreenTable {
   /// Loads if need be, makes visible, Form_Resize, then the focus; brings a visible one forward. A modal show returns
   /// when the form is gone; of a form that is visible already it returns at once.
   void Show(std::string_view name, ShowOptions options = {});
+  /// Shows a screen for another record: one that is open is unloaded first, without a question.
+  void Reopen(std::string_view name, ShowOptions options = {});
   /// Nothing happens if it isn't loaded.
   void Unload(std::string_view name);
+  /// Closes a screen as its exit button does, which may ask about unsaved changes. True if it is gone or was never
+  /// there, false if the user keeps it.
+  bool Close(std::string_view name) const;
   void Run(std::string_view action);
 
   /// All loaded forms, in the order of loading.

@@ -53,17 +53,17 @@ TEST_F(FocusTest, TheOwnerComesForwardBeforeTheLastActive) {
 TEST_F(FocusTest, AHandlerThatMovesTheFocusWinsAndAButtonThatGoesIsNotPressed) {
   Add("A");
   TestForm& a = Show("A");
-  a.first.LostFocus = [&] { a.first.SetFocus(); };
+  a.first.LostFocus.Replace([&] { a.first.SetFocus(); });
   Taken();
   a.second.SetFocus();
   EXPECT_THAT(Taken(), ElementsAre("A first.GotFocus"));
 
-  a.first.LostFocus = [&] { a.button.SetEnabled(false); };
+  a.first.LostFocus.Replace([&] { a.button.SetEnabled(false); });
   a.button.Press();
   EXPECT_THAT(Taken(), ElementsAre("A first.GotFocus")) << "the focus goes where it can";
 
   a.button.SetEnabled(true);
-  a.first.LostFocus = [&] { a.Unload(); };
+  a.first.LostFocus.Replace([&] { a.Unload(); });
   a.button.Press();
   EXPECT_THAT(Taken(), ElementsAre("A Unload", "A Terminate"));
 }

@@ -73,6 +73,20 @@ TEST_F(LifetimeTest, AnErrorThatLeavesAHandlerIsShownAndEndsThere) {
   EXPECT_EQ(desktop.boxes[0].title, "Norvanes");
 }
 
+TEST_F(LifetimeTest, NoFaultThatLeavesAHandlerEndsTheProgram) {
+  Add("A", {.press = [this](TestForm& form) {
+        form.first.SetText("typed");
+        program.screens.Show("NoSuchScreen");
+      }});
+  Add("B", {.press = [](TestForm& form) { form.timer.Tick = [] {}; }});
+  Show("A");
+  desktop.Expect("Run-time error '5':\n\nThe program has no screen or action named NoSuchScreen.");
+  Touch("A").button.Press();
+  desktop.Expect("Internal error: The event has a handler already.");
+  Show("B").button.Press();
+  EXPECT_EQ(Touch("A").first.Text(), "typed");
+}
+
 TEST_F(LifetimeTest, UnloadingTheOwnerTakesItsPickersAlong) {
   Add("Owner");
   Add("Picker", {}, {.width = 1, .height = 1, .goesWithOwner = true});

@@ -83,7 +83,7 @@ TEST_F(InDesktop, TheFramesCloseButtonPressesTheExitButton) {
   Demo().txtFirst.SetFocus();
   Log();
   std::string log;
-  Demo().btnExit.Click = [&] { log = Demo().TakeLog(); };
+  Demo().btnExit.Click.Replace([&] { log = Demo().TakeLog(); });
   Window().close();
   EXPECT_EQ(log, "-txtFirst +btnExit");
   EXPECT_TRUE(Window().isVisible()) << "the handler did not unload it";
@@ -103,11 +103,11 @@ TEST_F(InDesktop, AModalFormIsWaitedForAndBlocksTheRest) {
 TEST_F(InDesktop, AWindowOutlivesAHandlerThatUnloadsItsForm) {
   const QPointer<QWidget> window = &Window();
   program.screens.Show(CalendarForm::kName);  // keeps the program running
-  Demo().btnSave.Click = [this] {
+  Demo().btnSave.Click.Replace([this] {
     auto& form = Demo();
     form.Unload();
     form.txtFirst.SetText("still there");
-  };
+  });
   Click(Demo().btnSave);
   EXPECT_FALSE(program.screens.Find(DemoForm::kName));
   EXPECT_FALSE(window->isVisible());

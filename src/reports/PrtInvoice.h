@@ -11,7 +11,7 @@ class ReportTable;
 /// Prints the invoice CurInvoiceNum on one form-like page.
 class PrtInvoice : public VSInvoiceReport {
  public:
-  static constexpr const char* kName = "PrtInvoice";
+  static constexpr const char* kName = screen::kPrtInvoice;
   explicit PrtInvoice(Program& program);
 
  private:

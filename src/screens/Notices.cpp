@@ -23,17 +23,17 @@ struct NoticeKind {
   NoticeTimer timer = {};
 };
 
-constexpr NoticeTimer kIdleTimer{.milliseconds = 1500, .enabled = false, .repaints = "InvoiceDetail"};
+constexpr NoticeTimer kIdleTimer{.milliseconds = 1500, .enabled = false, .repaints = screen::kInvoiceDetail};
 
 constexpr NoticeKind kNotices[] = {
-    {"GettingClients", "Getting Clients", "Getting Clients...", nullptr, kIdleTimer},
-    {"GettingInvoices", "Getting Invoices", "Getting Client Invoices...", nullptr, kIdleTimer},
-    {"GettingInventory", "Getting Inventory", "Getting Inventory...", nullptr, kIdleTimer},
-    {"GettingReceipts", "Getting Receipts", "Getting Client Receipts...", nullptr, kIdleTimer},
-    {"LoadingClients", "Loading Clients", "Loading Client Data...", nullptr, {1000, true}},
-    {"LoadingBilling", "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}},
-    {"CustomerSaved", "Save Client", "Saving Client...", "Updating Client List...", {1000, false}},
-    {"LoadingInvoices", "Loading Invoices", "Loading Invoices..."},
+    {screen::kGettingClients, "Getting Clients", "Getting Clients...", nullptr, kIdleTimer},
+    {screen::kGettingInvoices, "Getting Invoices", "Getting Client Invoices...", nullptr, kIdleTimer},
+    {screen::kGettingInventory, "Getting Inventory", "Getting Inventory...", nullptr, kIdleTimer},
+    {screen::kGettingReceipts, "Getting Receipts", "Getting Client Receipts...", nullptr, kIdleTimer},
+    {screen::kLoadingClients, "Loading Clients", "Loading Client Data...", nullptr, {1000, true}},
+    {screen::kLoadingBilling, "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}},
+    {screen::kCustomerSaved, "Save Client", "Saving Client...", "Updating Client List...", {1000, false}},
+    {screen::kLoadingInvoices, "Loading Invoices", "Loading Invoices..."},
 };
 
 class Notice : public Form {
@@ -83,7 +83,7 @@ void Register(ScreenTable& screens, const NoticeKind& notice) {
 
 void RegisterNotices(ScreenTable& screens) {
   for (const NoticeKind& notice : kNotices) {
-    if (notice.name == std::string_view("LoadingInvoices")) {
+    if (notice.name == std::string_view(screen::kLoadingInvoices)) {
       Register<LoadingInvoices>(screens, notice);
     } else {
       Register<Notice>(screens, notice);

@@ -20,14 +20,11 @@ CustSearch::CustSearch(Program& host)
 void CustSearch::Form_Load() {
   Trapped("CustSearch.Form_Load -", [&] {
     CustList.Clear();
-    CustList.SetCols(2);
-    CustList.SetFormatString("Name|custnum");
-    CustList.SetColWidth(0, 2000);
-    CustList.SetColWidth(1, 0);
+    CustList.SetColumns({{"Name", 2000}, {"custnum", 0}});
     CustList.SetTopRow(1);
-    Recordset& clients = *globals.rsClientPick;
-    for (clients.MoveFirst(); !clients.Eof(); clients.MoveNext()) {
-      CustList.AddItem(clients.Text("lname") + ", " + clients.Text("fname") + "\t" + clients.Text("CustNum"));
+    const Object<Recordset> clients = globals.rsClientPick;
+    for (clients->MoveFirst(); !clients->Eof(); clients->MoveNext()) {
+      CustList.AddItem(GridRow({clients->Text("lname") + ", " + clients->Text("fname"), clients->Text("CustNum")}));
     }
   });
 }
@@ -37,8 +34,8 @@ void CustSearch::btnOK_Click() {
   Trapped("CustSearch.btnCancel_Click -", [&] {
     const int row = CustList.Row();
     if (row == 0) return;
-    globals.CurCustNum = convert.ToLong(CustList.Cell(row, 1));
-    globals.CurClientName = CustList.Cell(row, 0);
+    globals.CurCustNum = convert.ToLong(CustList.Cell(row, kCustNum));
+    globals.CurClientName = CustList.Cell(row, kClient);
     Grid& payments = screens.Touch<Receipts>().PaymentList;
     payments.SetCell(globals.RowSelected, Receipts::kCustNum, convert.ToText(globals.CurCustNum));
     payments.SetCell(globals.RowSelected, Receipts::kClient, globals.CurClientName);

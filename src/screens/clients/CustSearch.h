@@ -7,8 +7,11 @@ namespace norvane {
 /// Picks the client of a payment, out of the list that the main screen read last.
 class CustSearch : public Form {
  public:
-  static constexpr const char* kName = "CustSearch";
+  static constexpr const char* kName = screen::kCustSearch;
   explicit CustSearch(Program& program);
+
+  /// The columns of CustList.
+  enum ClientColumn { kClient, kCustNum };
 
   Grid CustList{*this, "CustList", GridKind::List};
   Button btnOK{*this, "btnOK", {.caption = "&OK", .isDefault = true}};

@@ -9,10 +9,9 @@
 #include "data/SharedLists.h"
 #include "data/Vendor.h"
 #include "data/cSetup.h"
-#include "screens/Opening.h"
-#include "screens/clients/Clients.h"
+#include "screens/clients/ClientCommands.h"
 #include "screens/sales/CustInvoices.h"
-#include "screens/sales/Sales.h"
+#include "screens/sales/GetInvoices.h"
 #include "screens/start/intro.h"
 #include "store/Recordset.h"
 
@@ -35,67 +34,60 @@ Customer::Customer(Program& host) : Form(host, kName, {.caption = "Norvanes", .w
   tmrClock.Tick = [this] { tmrClock_Timer(); };
 }
 
-/// A way to a screen that the program doesn't hold stands there disabled.
-template <class Way>
-void Customer::Leads(Way& way, std::string_view screen, const std::function<void()>& handler) {
-  way.Click = handler;
-  way.SetEnabled(screens.Has(screen));
-}
-
 void Customer::WireButtons() {
   btnRefresh.Click = [this] { RefreshCustList(program); };
-  Leads(btnNewCust, "Profile", [this] { btnNewCust_Click(); });
-  Leads(btnCustInfo, "Profile", [this] { btnCustInfo_Click(); });
-  Leads(btnDetails, "CustInvoices", [this] { CustList2_DblClick(); });
-  Leads(btnNewInvoice, "InvoiceDetail", [this] { btnNewInvoice_Click(); });
-  Leads(btnReceipts, "Receipts", [this] { btnReceipts_Click(); });
-  Leads(btnPayments, "GL", [this] { btnPayments_Click(); });
-  Leads(btnVendors, "Vendors", [this] { screens.Show("Vendors"); });
-  Leads(btnInventory, "frmInventory", [this] { btnInventory_Click(); });
+  WireTo(btnNewCust, screen::kProfile, [this] { btnNewCust_Click(); });
+  WireTo(btnCustInfo, screen::kProfile, [this] { btnCustInfo_Click(); });
+  WireTo(btnDetails, screen::kCustInvoices, [this] { CustList2_DblClick(); });
+  WireTo(btnNewInvoice, screen::kInvoiceDetail, [this] { btnNewInvoice_Click(); });
+  WireTo(btnReceipts, screen::kReceipts, [this] { btnReceipts_Click(); });
+  WireTo(btnPayments, screen::kGL, [this] { btnPayments_Click(); });
+  WireTo(btnVendors, screen::kVendors);
+  WireTo(btnInventory, screen::kfrmInventory, [this] { btnInventory_Click(); });
   btnExit.Click = [this] { Unload(); };
 }
 
 void Customer::WireMenu() {
-  Leads(mnuSetup, "frmSetup", [this] { screens.Show("frmSetup"); });
-  Leads(mnuBackup, "frmBackup", [this] { screens.Show("frmBackup"); });
-  Leads(mnuRestore, "frmRestore", [this] { screens.Show("frmRestore"); });
-  Leads(mnuRepair, "CompactDatabaseFile", [this] { screens.Run("CompactDatabaseFile"); });
+  WireTo(mnuSetup, screen::kfrmSetup);
+  WireTo(mnuBackup, screen::kfrmBackup);
+  WireTo(mnuRestore, screen::kfrmRestore);
+  WireTo(mnuRepair, screen::kCompactDatabaseFile, [this] { screens.Run(screen::kCompactDatabaseFile); });
   mnuExit.Click = [this] { Unload(); };
 
-  Leads(mnuClient, "Profile", [this] {
+  WireTo(mnuClient, screen::kProfile, [this] {
     if (HasClients()) btnCustInfo_Click();
   });
-  Leads(mnuNewClient, "Profile", [this] { btnNewCust_Click(); });
+  WireTo(mnuNewClient, screen::kProfile, [this] { btnNewCust_Click(); });
   mnuDelete.Click = [this] { mnuDelete_Click(); };
-  Leads(mnuNewInvoice, "InvoiceDetail", [this] { btnNewInvoice_Click(); });
-  Leads(mnuVendors, "Vendors", [this] { screens.Show("Vendors"); });
+  WireTo(mnuNewInvoice, screen::kInvoiceDetail, [this] { btnNewInvoice_Click(); });
+  WireTo(mnuVendors, screen::kVendors);
 
-  Leads(mnuInvoices, "CustInvoices", [this] {
+  WireTo(mnuInvoices, screen::kCustInvoices, [this] {
     if (HasClients()) CustList2_DblClick();
   });
-  Leads(mnuReceive, "Receipts", [this] {
+  WireTo(mnuReceive, screen::kReceipts, [this] {
     if (HasClients()) btnReceipts_Click();
   });
-  Leads(mnuPay, "GL", [this] { btnPayments_Click(); });
-  Leads(mnuInventory, "frmInventory", [this] { btnInventory_Click(); });
+  WireTo(mnuPay, screen::kGL, [this] { btnPayments_Click(); });
+  WireTo(mnuInventory, screen::kfrmInventory, [this] { btnInventory_Click(); });
 
-  Leads(mnuOrdering, "PrtBackOrders", [this] { mnuOrdering_Click(); });
-  Leads(mnuOrdered, "PrtBackOrdered", [this] { mnuOrdered_Click(); });
-  Leads(mnuBilling, "Billing", [this] {
-    if (HasClients()) screens.Show("Billing");
+  WireTo(mnuOrdering, screen::kPrtBackOrders, [this] { mnuOrdering_Click(); });
+  WireTo(mnuOrdered, screen::kPrtBackOrdered, [this] { mnuOrdered_Click(); });
+  WireTo(mnuBilling, screen::kBilling, [this] {
+    if (HasClients()) screens.Show(screen::kBilling);
   });
-  Leads(mnuInStock, "PrtInventory", [this] { ShowAnew(screens, "PrtInventory"); });
-  Leads(mnuInventorySales, "PrtInventorySales", [this] { ShowAnew(screens, "PrtInventorySales"); });
-  Leads(mnuBestSellers, "PrtInventoryBestSales", [this] { ShowAnew(screens, "PrtInventoryBestSales"); });
-  Leads(mnuBals, "PrtBals", [this] { ShowAnew(screens, "PrtBals"); });
+  WireToReopen(mnuInStock, screen::kPrtInventory);
+  WireToReopen(mnuInventorySales, screen::kPrtInventorySales);
+  WireToReopen(mnuBestSellers, screen::kPrtInventoryBestSales);
+  WireToReopen(mnuBals, screen::kPrtBals);
   mnuProfiles.SetEnabled(false);
-  Leads(mnu30days, "Prt30Days", [this] { ShowAging(30); });
-  Leads(mnu60days, "Prt30Days", [this] { ShowAging(60); });
-  Leads(mnu90days, "Prt30Days", [this] { ShowAging(90); });
-  Leads(mnuIncomeStatement, "PrtIncome", [this] { ShowAnew(screens, "PrtIncome"); });
+  WireTo(mnu30days, screen::kPrt30Days, [this] { ShowAging(30); });
+  WireTo(mnu60days, screen::kPrt30Days, [this] { ShowAging(60); });
+  WireTo(mnu90days, screen::kPrt30Days, [this] { ShowAging(90); });
+  WireToReopen(mnuIncomeStatement, screen::kPrtIncome);
 
   mnuContents.Click = [this] { mnuContents_Click(); };
-  mnuAbout.Click = [this] { screens.Show("About"); };
+  mnuAbout.Click = [this] { screens.Show(screen::kAbout); };
 }
 
 // Start-up.
@@ -113,7 +105,7 @@ void Customer::Form_Load() {
     if (globals.rsClientPick->RecordCount() < 1) {
       desktop.Say("Please enter a client into the database!");
       globals.CurCustNum = 0;
-      screens.Show("Profile", {.owner = this});
+      screens.Show(screen::kProfile, {.owner = this});
     } else {
       SelectFirstClient();
     }
@@ -138,15 +130,15 @@ void Customer::CreateSharedObjects() {
 }
 
 void Customer::LoadUnderSplash() {
-  const auto tell = [this](const char* process) {
+  const auto show = [this](const char* process) {
     screens.Touch<intro>().lblProcess.SetCaption(process);
     desktop.DoEvents();
   };
-  tell("...Preloading Inventory...");
+  show("...Preloading Inventory...");
   GetInventory(workspace, globals.CurCatNum, 0);
-  tell("...Loading Company Settings...");
+  show("...Loading Company Settings...");
   SetupInit(workspace);
-  tell("...Loading Clients...");
+  show("...Loading Clients...");
   CustList2.SetVisible(false);
   RefreshCustList(program);
   CustList2.SetVisible(true);
@@ -161,7 +153,7 @@ void Customer::StartStatusBar() {
 
 void Customer::SelectFirstClient() {
   SelectClient(1);
-  CustList2.SetCol(2);
+  CustList2.SetCol(kClient);
 }
 
 void Customer::tmrClock_Timer() {
@@ -195,10 +187,35 @@ void Customer::Form_Resize() {
 }
 
 void Customer::Form_GotFocus() {
-  CustList2.SetCol(2);
+  CustList2.SetCol(kClient);
 }
 
 // The list.
+
+void Customer::ClearList() {
+  CustList2.Clear();
+  CustList2.SetColumns({{"", 0},
+                        {"", 0},
+                        {"Name", 2200},
+                        {"Home Phone", 1200},
+                        {"Work Phone", 1200},
+                        {"Cel Phone", 1200},
+                        {"Email", 1200}});
+  CustList2.SetRows(1);
+}
+
+void Customer::ListClients(Recordset& clients) {
+  const std::string selected = convert.ToText(globals.CurCustNum);
+  int selectedRow = 0;
+  for (; !clients.Eof(); clients.MoveNext()) {
+    const std::string number = clients.Text("custnum");
+    CustList2.AddItem(
+        GridRow({number, "", clients.Text("lname") + ", " + clients.Text("fname"), clients.Text("homephone"),
+                 clients.Text("workphone"), clients.Text("celphone"), clients.Text("email")}));
+    if (number == selected) selectedRow = CustList2.Rows() - 1;
+  }
+  if (selectedRow > 0) CustList2.SetRow(selectedRow);
+}
 
 void Customer::CustList2_Click() {
   Trapped("Client.CustList2_Click -", [&] {
@@ -209,10 +226,10 @@ void Customer::CustList2_Click() {
 }
 
 void Customer::SelectClient(int row) {
-  globals.CurCustNum = convert.ToLong(CustList2.Cell(row, 0));
+  globals.CurCustNum = convert.ToLong(CustList2.Cell(row, kCustNum));
   globals.CurInvoiceDate = desktop.Today();
-  // Column 1 is empty, so that the name ends with a blank.
-  globals.CurClientName = CustList2.Cell(row, 2) + " " + CustList2.Cell(row, 1);
+  // The second part is empty, so that the name ends with a space.
+  globals.CurClientName = CustList2.Cell(row, kClient) + " " + CustList2.Cell(row, kFirst);
 }
 
 void Customer::CustList2_DblClick() {
@@ -247,10 +264,10 @@ void Customer::btnCustInfo_Click() {
 void Customer::btnNewCust_Click() {
   Trapped("Client.btnNewCust_Click -", [&] {
     // Before the flag is set: the profile clears it as it goes.
-    if (!CloseByItsExit(screens, "Profile")) return;
+    if (!screens.Close(screen::kProfile)) return;
     globals.NewClientMode = true;
     globals.CurCustNum = 0;
-    screens.Show("Profile");
+    screens.Show(screen::kProfile);
   });
 }
 
@@ -270,10 +287,10 @@ void Customer::btnPayments_Click() {
     globals.rsVendors = globals.oVendor->GetAllVendors();
     globals.oVendor->CloseCn();
     if (globals.rsVendors->Eof()) {
-      screens.Show("Vendors");
+      screens.Show(screen::kVendors);
       desktop.Say("No Vendors found for ledger entries.  Enter Vendor profile first.");
     } else {
-      screens.Show("GL");
+      screens.Show(screen::kGL);
     }
   });
 }
@@ -281,7 +298,7 @@ void Customer::btnPayments_Click() {
 void Customer::btnInventory_Click() {
   Trapped("Client.btnInventory_Click -", [&] {
     globals.CurCatNum = 1;
-    screens.Show("frmInventory");
+    screens.Show(screen::kfrmInventory);
   });
 }
 
@@ -293,39 +310,35 @@ void Customer::mnuDelete_Click() {
 
 void Customer::mnuOrdering_Click() {
   Trapped("Client.mnuOrdering_Click -", [&] {
-    if (!HasClients()) return;
-    globals.rsBackOrders = std::make_shared<Recordset>();
-    globals.oInvoice->OpenCn();
-    globals.rsBackOrders = globals.oInvoice->GetBackOrderItems();
-    globals.oInvoice->CloseCn();
-    if (globals.rsBackOrders->RecordCount() != 0) {
-      ShowAnew(screens, "PrtBackOrders");
-    } else {
-      desktop.Say("Unordered backorders not found.");
-    }
+    ShowBackOrders(&Invoice::GetBackOrderItems, screen::kPrtBackOrders, "Unordered backorders not found.");
   });
 }
 
 void Customer::mnuOrdered_Click() {
   Trapped("Client.mnuOrdered_Click -", [&] {
-    if (!HasClients()) return;
-    globals.rsBackOrders = std::make_shared<Recordset>();
-    globals.oInvoice->OpenCn();
-    globals.rsBackOrders = globals.oInvoice->GetBackOrderedItems();
-    globals.oInvoice->CloseCn();
-    if (globals.rsBackOrders->RecordCount() != 0) {
-      ShowAnew(screens, "PrtBackOrdered");
-    } else {
-      desktop.Say("No backordered items found.");
-    }
+    ShowBackOrders(&Invoice::GetBackOrderedItems, screen::kPrtBackOrdered, "No backordered items found.");
   });
+}
+
+void Customer::ShowBackOrders(Object<Recordset> (Invoice::*read)(), const char* report, const char* noneFound) {
+  if (!HasClients()) return;
+  globals.rsBackOrders = std::make_shared<Recordset>();
+  const Object<Invoice> invoice = globals.oInvoice;
+  invoice->OpenCn();
+  globals.rsBackOrders = std::invoke(read, *invoice);
+  invoice->CloseCn();
+  if (globals.rsBackOrders->RecordCount() != 0) {
+    screens.Reopen(report);
+  } else {
+    desktop.Say(noneFound);
+  }
 }
 
 void Customer::ShowAging(std::int16_t days) {
   if (!HasClients()) return;
-  screens.Unload("Prt30Days");
+  screens.Unload(screen::kPrt30Days);
   globals.AgingDays = days;
-  screens.Show("Prt30Days");
+  screens.Show(screen::kPrt30Days);
 }
 
 void Customer::mnuContents_Click() {

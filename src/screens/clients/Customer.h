@@ -8,11 +8,14 @@
 
 namespace norvane {
 
-/// The main screen: lists all clients and leads to every other screen.
+/// The main screen: lists all clients and opens every other screen.
 class Customer : public Form {
  public:
-  static constexpr const char* kName = "Customer";
+  static constexpr const char* kName = screen::kCustomer;
   explicit Customer(Program& program);
+
+  /// The columns of CustList2.
+  enum ClientColumn { kCustNum, kFirst, kClient, kHomePhone, kWorkPhone, kCelPhone, kEmail };
 
   Frame Frame2{*this, "Frame2"};
   Button btnRefresh{*this, "btnRefresh", {.toolTip = "Refresh Client List", .icon = "refresh"}};
@@ -69,14 +72,17 @@ class Customer : public Form {
   MenuEntry mnuContents{mnuHelp, "mnuContents", "&Contents"};
   MenuEntry mnuAbout{mnuHelp, "mnuAbout", "&About Norvane"};
 
+  /// Empties the list, headings and widths as at first.
+  void ClearList();
+  /// Adds a row for each client; the cursor comes back to the selected one, so that what is marked is what the commands
+  /// act on.
+  void ListClients(Recordset& clients);
   /// Whether the list shows any client at all.
   bool HasClients() const { return CustList2.Rows() != 1; }
 
  private:
   void WireButtons();
   void WireMenu();
-  template <class Way>
-  void Leads(Way& way, std::string_view screen, const std::function<void()>& handler);
 
   void Form_Load() override;
   void CreateSharedObjects();
@@ -105,6 +111,7 @@ class Customer : public Form {
   void mnuDelete_Click();
   void mnuOrdering_Click();
   void mnuOrdered_Click();
+  void ShowBackOrders(Object<Recordset> (Invoice::*read)(), const char* report, const char* noneFound);
   void ShowAging(std::int16_t days);
   void mnuContents_Click();
 

@@ -1,7 +1,7 @@
 #include "screens/clients/Profile.h"
 
 #include "data/Client.h"
-#include "screens/clients/Clients.h"
+#include "screens/clients/ClientCommands.h"
 #include "screens/clients/Customer.h"
 #include "store/Recordset.h"
 
@@ -110,8 +110,7 @@ Profile::Profile(Program& host) : Form(host, kName, {.caption = "Client Profile"
   SetExitButton(btnExit);
   btnSave.Click = [this] { btnSave_Click(); };
   btnDelete.Click = [this] { btnDelete_Click(); };
-  btnNewInvoice.Click = [this] { btnNewInvoice_Click(); };
-  btnNewInvoice.SetEnabled(screens.Has("InvoiceDetail"));
+  WireTo(btnNewInvoice, screen::kInvoiceDetail, [this] { btnNewInvoice_Click(); });
   btnNewCustomer.Click = [this] { btnNewCustomer_Click(); };
   btnExit.Click = [this] { btnExit_Click(); };
   btnSame.Click = [this] { btnSame_Click(); };
@@ -171,7 +170,7 @@ void Profile::WireChanges() {
   txtDiscount.Change = changed;
   // What the main screen's list shows.
   for (TextBox* box : {&txtFname, &txtLname, &txtHomePhone, &txtWorkPhone, &txtCellPhone, &txtEmail}) {
-    box->Change = [this] { Changed = globals.RefreshNeeded = true; };
+    box->Change.Replace([this] { Changed = globals.RefreshNeeded = true; });
   }
 }
 
@@ -204,12 +203,12 @@ void Profile::ShowBalance() {
 
 void Profile::SetForm() {
   Trapped("Profile.SetForm -", [&] {
-    const Client& client = *globals.oClient;
-    lblCustNum.SetCaption(convert.ToText(client.CustNum));
-    for (const Bound& bound : kBound) (this->*bound.box).SetText(client.*bound.property);
-    cmbPmtType1.SetText(client.PaymentType1);
-    cmbPmtType2.SetText(client.PaymentType2);
-    txtDiscount.SetText(convert.ToText(client.Discount));
+    const Object<Client> client = globals.oClient;
+    lblCustNum.SetCaption(convert.ToText(std::int32_t{client->CustNum}));
+    for (const Bound& bound : kBound) (this->*bound.box).SetText((*client).*bound.property);
+    cmbPmtType1.SetText(client->PaymentType1);
+    cmbPmtType2.SetText(client->PaymentType2);
+    txtDiscount.SetText(convert.ToText(client->Discount));
   });
 }
 
@@ -249,30 +248,30 @@ void Profile::btnSave_Click() {
     globals.oClient->SaveClientAccess(NumberShown());
     numberIsUnsaved_ = false;
     globals.NewClientMode = false;
-    TellSaved();
+    ShowSaved();
     if (globals.RefreshNeeded) {
       RefreshCustList(program);
       globals.RefreshNeeded = false;
     }
     screens.Show(Customer::kName);
     globals.oClient->CloseCn();
-    screens.Unload("CustomerSaved");
+    screens.Unload(screen::kCustomerSaved);
     Changed = false;
   });
 }
 
 void Profile::TakeFromControls() {
-  Client& client = *globals.oClient;
-  client.CustNum = NumberShown();
-  for (const Bound& bound : kBound) client.*bound.property = (this->*bound.box).Text();
-  client.PaymentType1 = cmbPmtType1.Text();
-  client.PaymentType2 = cmbPmtType2.Text();
-  client.Discount = convert.ToDouble(txtDiscount.Text());
+  const Object<Client> client = globals.oClient;
+  client->CustNum = NumberShown();
+  for (const Bound& bound : kBound) (*client).*bound.property = (this->*bound.box).Text();
+  client->PaymentType1 = cmbPmtType1.Text();
+  client->PaymentType2 = cmbPmtType2.Text();
+  client->Discount = convert.ToDouble(txtDiscount.Text());
 }
 
-void Profile::TellSaved() {
+void Profile::ShowSaved() {
   Refresh();
-  screens.Show("CustomerSaved", {.owner = this});
+  screens.Show(screen::kCustomerSaved, {.owner = this});
   desktop.DoEvents();
   desktop.Wait(1);
 }
@@ -313,11 +312,11 @@ void Profile::btnNewCustomer_Click() {
 void Profile::btnNewInvoice_Click() {
   globals.CurClientName = NameShown();
   if (!SavedForInvoice() || !screens.Touch<Customer>().HasClients()) return;
-  IgnoringErrors([&] { screens.Unload("InvoiceDetail"); }, [&] { globals.CurInvoiceNum = 0; },
+  IgnoringErrors([&] { screens.Unload(screen::kInvoiceDetail); }, [&] { globals.CurInvoiceNum = 0; },
                  [&] { globals.CurInvoiceDate = desktop.Today(); }, [&] { globals.CurClientName.clear(); },
                  [&] { globals.CurInvoiceDesc.clear(); },
                  [&] { globals.ClientDiscount = convert.ToDouble(txtDiscount.Text()); },
-                 [&] { screens.Show("InvoiceDetail"); });
+                 [&] { screens.Show(screen::kInvoiceDetail); });
 }
 
 bool Profile::SavedForInvoice() {

@@ -10,7 +10,7 @@ namespace norvane {
 /// All fields of one client on three tabs; also where a new client is entered.
 class Profile : public Form {
  public:
-  static constexpr const char* kName = "Profile";
+  static constexpr const char* kName = screen::kProfile;
   explicit Profile(Program& program);
 
   Button btnSave{*this, "btnSave", {.toolTip = "Save Client", .icon = "save"}};
@@ -98,7 +98,7 @@ class Profile : public Form {
 
   void btnSave_Click();
   void TakeFromControls();
-  void TellSaved();
+  void ShowSaved();
 
   Answer OfferToSave();
   bool SavedForInvoice();

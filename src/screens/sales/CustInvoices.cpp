@@ -2,12 +2,26 @@
 
 #include <tuple>
 
-#include "screens/Opening.h"
-#include "screens/clients/Clients.h"
+#include "forms/DatePair.h"
+#include "screens/clients/ClientCommands.h"
+#include "screens/sales/GetInvoices.h"
 #include "screens/sales/InvoiceDetail.h"
-#include "screens/sales/Sales.h"
+#include "store/Recordset.h"
 
 namespace norvane {
+
+namespace {
+
+/// What the invoice comes to. Null if it has no lines, whatever its charges.
+Value ChargeOf(const Recordset& invoice, const Conversions& convert) {
+  const Value lines = invoice.Field("charge");
+  const Value reduction = Multiply(Divide(invoice.Field("Discount"), 100, convert), lines, convert);
+  Value charge = Subtract(lines, reduction, convert);
+  for (const char* extra : {"Tax", "Interest", "ShippingCharge"}) charge = Add(charge, invoice.Field(extra), convert);
+  return charge;
+}
+
+}  // namespace
 
 CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Client Sales"}) {
   using namespace layout;
@@ -21,16 +35,15 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
   btnDetails.Click = [this] { InvoiceList_DblClick(); };
   btnNewInvoice.Click = [this] { StartNewInvoice(program); };
   btnDelete.Click = [this] { btnDelete_Click(); };
-  btnPrint.Click = [this] {
+  WireTo(btnPrint, screen::kPrtInvoice, [this] {
     SelectMarkedIfNone();
-    ShowAnew(screens, "PrtInvoice");
-  };
-  btnPrint.SetEnabled(screens.Has("PrtInvoice"));
+    screens.Reopen(screen::kPrtInvoice);
+  });
   btnCustInfo.Click = [this] { ShowProfile(program); };
-  btnReceipts.Click = [this] { btnReceipts_Click(); };
+  btnReceipts.Click = Trapping("ClientInvoices.btnReceipts_Click -", [this] { ShowReceipts(program); });
   btnInventory.Click = [this] { btnInventory_Click(); };
   btnExit.Click = [this] { Unload(); };
-  DTPicker1.Change = [this] { txtSinceDate.SetText(MaskedDateText(DTPicker1.Value())); };
+  WritePickedDate(DTPicker1, txtSinceDate);
   btnGo.Click = [this] { btnGo_Click(); };
   InvoiceList.Click = [this] { InvoiceList_Click(); };
   InvoiceList.DblClick = [this] { InvoiceList_DblClick(); };
@@ -42,8 +55,7 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
 void CustInvoices::Form_Load() {
   InvoiceList.SetFocus();
   Trapped("ClientInvoices.Form_Load -", [&] {
-    DTPicker1.SetValue(StartOfYear(desktop));
-    txtSinceDate.SetText(MaskedDateText(DTPicker1.Value()));
+    SetDates(DTPicker1, txtSinceDate, StartOfYear(desktop));
     globals.InvoiceSince = DTPicker1.Value();
     CmbInvoice.Clear();
     for (const char* item : {kSelectedClient, kAllClients}) CmbInvoice.AddItem(item);
@@ -57,14 +69,14 @@ void CustInvoices::btnGo_Click() {
   Trapped("ClientInvoices.btnGo_Click -", [&] {
     const bool all = CmbInvoice.Text() == kAllClients;
     if (all) globals.CurClientName = kAllClients;
-    screens.Show("LoadingInvoices", {.owner = this});
+    screens.Show(screen::kLoadingInvoices, {.owner = this});
     desktop.DoEvents();
     if (all) {
       GetAllInvoices(program);
     } else {
       GetInvoices(program, SinceDate());
     }
-    screens.Unload("LoadingInvoices");
+    screens.Unload(screen::kLoadingInvoices);
     Label3.SetVisible(!all);
     lblBalDue.SetVisible(!all);
   });
@@ -72,18 +84,39 @@ void CustInvoices::btnGo_Click() {
 
 // The list.
 
+void CustInvoices::ClearList() {
+  InvoiceList.Clear();
+  InvoiceList.SetColumns({{"Date", 1000},
+                          {"Invoice#", 800},
+                          {"Customer#", 0},
+                          {"Last", 0},
+                          {"Name", 2000},
+                          {">Charges", 1000},
+                          {"Description", 2000}});
+  InvoiceList.SetRows(1);
+}
+
+void CustInvoices::ListInvoices(Recordset& invoices) {
+  for (; !invoices.Eof(); invoices.MoveNext()) {
+    InvoiceList.AddItem(GridRow({convert.ToText(invoices.Field("InvoiceDate")), invoices.Text("InvoiceNum"),
+                                 invoices.Text("CustNum"), "", invoices.Text("lname") + ", " + invoices.Text("fname"),
+                                 convert.CurrencyText(ChargeOf(invoices, convert)), invoices.Text("description")}));
+  }
+  if (invoices.RecordCount() > 0) invoices.Close();
+}
+
 void CustInvoices::SelectInvoice() {
   const int row = InvoiceList.Row();
-  globals.CurInvoiceDate = convert.ToDate(InvoiceList.Cell(row, 0));
-  globals.CurInvoiceNum = convert.ToLong(InvoiceList.Cell(row, 1));
-  globals.CurClientName = InvoiceList.Cell(row, 4);
-  globals.CurInvoiceDesc = InvoiceList.Cell(row, 6);
+  globals.CurInvoiceDate = convert.ToDate(InvoiceList.Cell(row, kDate));
+  globals.CurInvoiceNum = convert.ToLong(InvoiceList.Cell(row, kInvoiceNum));
+  globals.CurClientName = InvoiceList.Cell(row, kClient);
+  globals.CurInvoiceDesc = InvoiceList.Cell(row, kDescription);
 }
 
 void CustInvoices::InvoiceList_Click() {
   Trapped("ClientInvoices.InvoiceList_Click -", [&] {
     SelectInvoice();
-    globals.CurCustNum = convert.ToLong(InvoiceList.Cell(InvoiceList.Row(), 2));
+    globals.CurCustNum = convert.ToLong(InvoiceList.Cell(InvoiceList.Row(), kCustNum));
   });
 }
 
@@ -96,7 +129,7 @@ void CustInvoices::SelectMarkedIfNone() {
 void CustInvoices::InvoiceList_DblClick() {
   SelectMarkedIfNone();
   const std::tuple asked(globals.CurInvoiceNum, globals.CurInvoiceDate, globals.CurClientName, globals.CurInvoiceDesc);
-  if (!CloseByItsExit(screens, InvoiceDetail::kName)) return;
+  if (!screens.Close(InvoiceDetail::kName)) return;
   std::tie(globals.CurInvoiceNum, globals.CurInvoiceDate, globals.CurClientName, globals.CurInvoiceDesc) = asked;
   screens.Show(InvoiceDetail::kName, {.owner = this});
 }
@@ -117,12 +150,8 @@ void CustInvoices::btnDelete_Click() {
 void CustInvoices::btnInventory_Click() {
   Trapped("ClientInvoices.btnInventory_Click -", [&] {
     globals.CurCatNum = 1;
-    screens.Show("frmInventory");
+    screens.Show(screen::kfrmInventory);
   });
-}
-
-void CustInvoices::btnReceipts_Click() {
-  Trapped("ClientInvoices.btnReceipts_Click -", [&] { ShowReceipts(program); });
 }
 
 void CustInvoices::Form_Resize() {

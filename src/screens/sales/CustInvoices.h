@@ -7,10 +7,13 @@ namespace norvane {
 /// The sales invoices of the selected client, or of all clients, since a date.
 class CustInvoices : public Form {
  public:
-  static constexpr const char* kName = "CustInvoices";
+  static constexpr const char* kName = screen::kCustInvoices;
   static constexpr const char* kSelectedClient = "Selected Client";
   static constexpr const char* kAllClients = "All Clients";
   explicit CustInvoices(Program& program);
+
+  /// The columns of InvoiceList.
+  enum InvoiceColumn { kDate, kInvoiceNum, kCustNum, kLast, kClient, kCharges, kDescription };
 
   Frame Frame2{*this, "Frame2"};
   Button btnDetails{*this, "btnDetails", {.toolTip = "View details for selected sales invoice", .icon = "invoices"}};
@@ -37,6 +40,10 @@ class CustInvoices : public Form {
 
   /// The date typed or picked. Raises 13 if it is none.
   Date SinceDate() const { return convert.ToDateFromMask(txtSinceDate.Text()); }
+  /// Empties the list, headings and widths as at first.
+  void ClearList();
+  /// Adds a row for each invoice and closes what had rows.
+  void ListInvoices(Recordset& invoices);
   /// The current row's invoice becomes the selected one, under the client's name as it stands there.
   void SelectInvoice();
 
@@ -48,7 +55,6 @@ class CustInvoices : public Form {
   void InvoiceList_DblClick();
   void btnDelete_Click();
   void btnInventory_Click();
-  void btnReceipts_Click();
   void Form_Resize() override;
   void Form_Unload() override;
 };

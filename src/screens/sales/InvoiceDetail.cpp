@@ -4,10 +4,9 @@
 
 #include "data/Client.h"
 #include "data/Invoice.h"
-#include "screens/Opening.h"
 #include "screens/sales/CustInvoices.h"
+#include "screens/sales/GetInvoices.h"
 #include "screens/sales/Receipts.h"
-#include "screens/sales/Sales.h"
 #include "store/Recordset.h"
 
 namespace norvane {
@@ -50,8 +49,7 @@ layout::Node InvoiceDetail::Head() {
 void InvoiceDetail::WireButtons() {
   btnSave.Click = [this] { btnSave_Click(); };
   btnNew.Click = [this] { btnNew_Click(); };
-  btnPrint.Click = [this] { btnPrint_Click(); };
-  btnPrint.SetEnabled(screens.Has("PrtInvoice"));
+  WireTo(btnPrint, screen::kPrtInvoice, [this] { btnPrint_Click(); });
   btnPayments.Click = [this] { btnPayments_Click(); };
   btnExit.Click = [this] { btnExit_Click(); };
   btnTax.Click = [this] { btnTax_Click(); };
@@ -83,33 +81,32 @@ void InvoiceDetail::Form_Load() {
     } else {
       BeginInvoice();
     }
-    for (const int col : {kCharge, kTotal}) ItemList.SetColDataType(col, ColumnType::Currency);
   });
 }
 
 void InvoiceDetail::FillShippingTypes() {
   cmbShipType.Clear();
-  Recordset& types = *globals.rsShippingTypes;
-  for (types.MoveFirst(); !types.Eof(); types.MoveNext()) {
-    cmbShipType.AddItem(types.Text("Service") + " " + types.Text("Option"));
+  const Object<Recordset> types = globals.rsShippingTypes;
+  for (types->MoveFirst(); !types->Eof(); types->MoveNext()) {
+    cmbShipType.AddItem(types->Text("Service") + " " + types->Text("Option"));
   }
 }
 
 void InvoiceDetail::OpenInvoice() {
-  Invoice& invoice = *globals.oInvoice;
-  invoice.OpenCn();
-  invoice.GetInvoice(globals.CurInvoiceNum);
-  if (invoice.InvoiceNum == globals.CurInvoiceNum) CustShown = invoice.CustNum;
+  const Object<Invoice> invoice = globals.oInvoice;
+  invoice->OpenCn();
+  invoice->GetInvoice(globals.CurInvoiceNum);
+  if (invoice->InvoiceNum == globals.CurInvoiceNum) CustShown = invoice->CustNum;
   lblInvoiceNum.SetCaption(convert.ToText(globals.CurInvoiceNum));
   txtDescription.SetText(globals.CurInvoiceDesc);
   lblCustomer.SetCaption(globals.CurClientName);
   txtDate.SetText(convert.ToText(globals.CurInvoiceDate));
-  txtSalesRep.SetText(invoice.SalesRep);
-  txtDiscount.SetText(convert.ToText(invoice.Discount));
+  txtSalesRep.SetText(invoice->SalesRep);
+  txtDiscount.SetText(convert.ToText(invoice->Discount));
   ShowShippingAndCharges();
-  rsItems = invoice.GetInvoiceItems(globals.CurInvoiceNum);
-  lblTotal.SetCaption(convert.CurrencyText(invoice.InvoiceTotal(globals.CurInvoiceNum)));
-  invoice.CloseCn();
+  rsItems = invoice->GetInvoiceItems(globals.CurInvoiceNum);
+  lblTotal.SetCaption(convert.CurrencyText(invoice->InvoiceTotal(globals.CurInvoiceNum)));
+  invoice->CloseCn();
   ListItems();
   // Filling the fields has set it.
   globals.InvoiceDirty = false;
@@ -118,16 +115,16 @@ void InvoiceDetail::OpenInvoice() {
 // What oInvoice holds of the last invoice carries over, so that a run of similar invoices needs no retyping.
 void InvoiceDetail::BeginInvoice() {
   NewInvoice = true;
-  Invoice& invoice = *globals.oInvoice;
-  invoice.OpenCn();
-  invoice.GetnewInvoiceNum();
-  lblInvoiceNum.SetCaption(convert.ToText(std::int32_t{invoice.InvoiceNum}));
+  const Object<Invoice> invoice = globals.oInvoice;
+  invoice->OpenCn();
+  invoice->GetnewInvoiceNum();
+  lblInvoiceNum.SetCaption(convert.ToText(std::int32_t{invoice->InvoiceNum}));
   txtDescription.SetText("");
   txtDate.SetText(convert.ToText(desktop.Today()));
-  txtSalesRep.SetText(invoice.SalesRep);
+  txtSalesRep.SetText(invoice->SalesRep);
   txtDiscount.SetText(convert.ToText(globals.ClientDiscount));
   ShowShippingAndCharges();
-  invoice.CloseCn();
+  invoice->CloseCn();
   globals.oClient->OpenCn();
   lblCustomer.SetCaption(globals.oClient->ClientName(CustShown));
   globals.oClient->CloseCn();
@@ -135,14 +132,14 @@ void InvoiceDetail::BeginInvoice() {
 }
 
 void InvoiceDetail::ShowShippingAndCharges() {
-  const Invoice& invoice = *globals.oInvoice;
-  txtShipDate.SetText(convert.ToText(invoice.Shippingdate));
-  txtShipCharge.SetText(convert.CurrencyText(invoice.ShippingCharge));
-  cmbShipType.SetText(invoice.ShippingType);
-  txtTrackNum.SetText(invoice.TrackingNum);
-  txtTerms.SetText(invoice.Terms);
-  txtTax.SetText(convert.CurrencyText(invoice.Tax));
-  txtInterest.SetText(convert.CurrencyText(invoice.Interest));
+  const Object<Invoice> invoice = globals.oInvoice;
+  txtShipDate.SetText(convert.ToText(invoice->Shippingdate));
+  txtShipCharge.SetText(convert.CurrencyText(invoice->ShippingCharge));
+  cmbShipType.SetText(invoice->ShippingType);
+  txtTrackNum.SetText(invoice->TrackingNum);
+  txtTerms.SetText(invoice->Terms);
+  txtTax.SetText(convert.CurrencyText(invoice->Tax));
+  txtInterest.SetText(convert.CurrencyText(invoice->Interest));
 }
 
 std::int32_t InvoiceDetail::NumberShown() const {
@@ -166,21 +163,21 @@ void InvoiceDetail::btnSave_Click() {
 // A date that is none leaves the earlier one. Money counts by its leading number: text that begins with the currency's
 // symbol counts as 0.
 void InvoiceDetail::TakeFromControls() {
-  Invoice& invoice = *globals.oInvoice;
+  const Object<Invoice> invoice = globals.oInvoice;
   const auto money = [](const TextBox& box) { return Currency::FromDouble(Val(box.Text())); };
-  invoice.InvoiceNum = NumberShown();
-  invoice.CustNum = CustShown;
-  if (convert.IsDate(txtDate.Text())) invoice.InvoiceDate = convert.ToDate(txtDate.Text());
-  invoice.description = txtDescription.Text();
-  invoice.SalesRep = txtSalesRep.Text();
-  invoice.Discount = Val(txtDiscount.Text());
-  if (convert.IsDate(txtShipDate.Text())) invoice.Shippingdate = convert.ToDate(txtShipDate.Text());
-  invoice.ShippingCharge = money(txtShipCharge);
-  invoice.ShippingType = cmbShipType.Text();
-  invoice.TrackingNum = txtTrackNum.Text();
-  invoice.Terms = txtTerms.Text();
-  invoice.Interest = money(txtInterest);
-  invoice.Tax = money(txtTax);
+  invoice->InvoiceNum = NumberShown();
+  invoice->CustNum = CustShown;
+  if (convert.IsDate(txtDate.Text())) invoice->InvoiceDate = convert.ToDate(txtDate.Text());
+  invoice->description = txtDescription.Text();
+  invoice->SalesRep = txtSalesRep.Text();
+  invoice->Discount = Val(txtDiscount.Text());
+  if (convert.IsDate(txtShipDate.Text())) invoice->Shippingdate = convert.ToDate(txtShipDate.Text());
+  invoice->ShippingCharge = money(txtShipCharge);
+  invoice->ShippingType = cmbShipType.Text();
+  invoice->TrackingNum = txtTrackNum.Text();
+  invoice->Terms = txtTerms.Text();
+  invoice->Interest = money(txtInterest);
+  invoice->Tax = money(txtTax);
 }
 
 // Totals.
@@ -245,9 +242,9 @@ void InvoiceDetail::btnPrint_Click() {
     globals.CurInvoiceNum = NumberShown();
     // The report is made out to the client selected, who may be another than this invoice's.
     const std::int32_t selected = std::exchange(globals.CurCustNum, CustShown);
-    ShowAnew(screens, "PrtInvoice");
+    screens.Reopen(screen::kPrtInvoice);
     globals.CurCustNum = selected;
-    if (Form* report = screens.Find("PrtInvoice")) report->Refresh();
+    if (Form* report = screens.Find(screen::kPrtInvoice)) report->Refresh();
   });
 }
 
@@ -263,7 +260,7 @@ void InvoiceDetail::btnNew_Click() {
 }
 
 void InvoiceDetail::btnPayments_Click() {
-  if (CloseByItsExit(screens, Receipts::kName)) screens.Show(Receipts::kName);
+  if (screens.Close(Receipts::kName)) screens.Show(Receipts::kName);
 }
 
 void InvoiceDetail::btnExit_Click() {

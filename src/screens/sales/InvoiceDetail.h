@@ -14,7 +14,7 @@ namespace norvane {
 /// edit, before the line is stored.
 class InvoiceDetail : public Form {
  public:
-  static constexpr const char* kName = "InvoiceDetail";
+  static constexpr const char* kName = screen::kInvoiceDetail;
   explicit InvoiceDetail(Program& program);
 
   /// The columns of ItemList. The charge is the price of one unit, which is stored nowhere; the back order is the units
@@ -54,7 +54,7 @@ class InvoiceDetail : public Form {
   /// Whether QtyLeft says that the line's item has run out.
   bool IsShort() const;
   /// Tells that the line's item has run out.
-  void TellBackOrder(std::int32_t row);
+  void ReportBackOrder(std::int32_t row);
 
  private:
   layout::Node Head();

@@ -12,7 +12,7 @@ void InvoiceDetail::WireLines() {
   ItemList.GotFocus = [this] { ItemList_GotFocus(); };
   ItemList.BeforeEdit = [this](int row, int col) { ItemList_BeforeEdit(row, col); };
   ItemList.AfterEdit = [this](int row, int col) { ItemList_AfterEdit(row, col); };
-  ItemList.LeaveCell = [this] { ItemList_LeaveCell(); };
+  ItemList.LeaveCell.Replace([this] { ItemList_LeaveCell(); });
   btnNewItem.Click = [this] { btnNewItem_Click(); };
   btnRemove.Click = [this] { btnRemove_Click(); };
 }
@@ -21,10 +21,14 @@ void InvoiceDetail::WireLines() {
 
 void InvoiceDetail::SetUpGrid() {
   ItemList.Clear();
-  ItemList.SetCols(8);
-  ItemList.SetFormatString("^Sel|TransNum|Inventory#|>Quantity|>Charge|Description|>Total|>Back Order");
-  const Twips widths[] = {400, 0, 1000, 800, 1000, 3000, 1000, 800};
-  for (int col = 0; col < 8; ++col) ItemList.SetColWidth(col, widths[col]);
+  ItemList.SetColumns({{"^Sel", 400},
+                       {"TransNum", 0},
+                       {"Inventory#", 1000},
+                       {">Quantity", 800},
+                       {">Charge", 1000, ColumnType::Currency},
+                       {"Description", 3000},
+                       {">Total", 1000, ColumnType::Currency},
+                       {">Back Order", 800}});
   ItemList.SetRows(1);
 }
 
@@ -36,9 +40,9 @@ void InvoiceDetail::ListItems() {
     globals.UnitCharge = convert.ToCurrency(Divide(amount, quantity, convert));
     BackOrderText = rsItems->Text("BackOrder");
     if (BackOrderText == "0") BackOrderText.clear();
-    ItemList.AddItem("\t" + rsItems->Text("TransNum") + "\t" + rsItems->Text("ItemNum") + "\t" +
-                         convert.ToText(quantity) + "\t" + convert.CurrencyText(globals.UnitCharge) + "\t" +
-                         rsItems->Text("Notes") + "\t" + convert.CurrencyText(amount) + "\t" + BackOrderText,
+    ItemList.AddItem(GridRow({"", rsItems->Text("TransNum"), rsItems->Text("ItemNum"), convert.ToText(quantity),
+                              convert.CurrencyText(globals.UnitCharge), rsItems->Text("Notes"),
+                              convert.CurrencyText(amount), BackOrderText}),
                      LineRow);
     ++LineRow;
   }
@@ -85,7 +89,7 @@ void InvoiceDetail::ChangeQuantity(int row) {
   if (!IsShort()) return;
   const double change = static_cast<double>(globals.EditQty) - globals.BeforeQty;
   const double stockBefore = change + globals.QtyLeft;
-  TellBackOrder(row);
+  ReportBackOrder(row);
   double backOrder = Val(ItemList.Cell(row, kBackOrder)) - change;
   if (stockBefore > 0) backOrder += stockBefore;
   ItemList.SetCell(row, kBackOrder, convert.ToText(backOrder));
@@ -95,7 +99,7 @@ bool InvoiceDetail::IsShort() const {
   return globals.QtyLeft > Inventory::kNotCounted && globals.QtyLeft < 0;
 }
 
-void InvoiceDetail::TellBackOrder(std::int32_t row) {
+void InvoiceDetail::ReportBackOrder(std::int32_t row) {
   desktop.Say("No " + ItemList.Cell(row, kDescription) + " in Inventory.  Is marked as Back Ordered in Invoice!");
 }
 
@@ -133,18 +137,18 @@ void InvoiceDetail::SaveRow() {
 }
 
 void InvoiceDetail::StoreLine(std::int32_t row, std::int32_t transNum) {
-  Invoice& line = *globals.oInvoice;
+  const Object<Invoice> line = globals.oInvoice;
   const auto cell = [&](ItemColumn column) { return ItemList.Cell(row, column); };
-  line.TransNum = transNum;
-  line.InvoiceNum = NumberShown();
-  line.ItemNum = convert.ToLong(cell(kItemNum));
-  line.Qty = convert.ToLong(cell(kQuantity));
-  line.TransNotes = cell(kDescription);
-  line.charge = convert.ToCurrency(cell(kTotal));
-  line.BackOrder = cell(kBackOrder).empty() ? 0 : convert.ToLong(cell(kBackOrder));
-  line.SaveTransAccess();
+  line->TransNum = transNum;
+  line->InvoiceNum = NumberShown();
+  line->ItemNum = convert.ToLong(cell(kItemNum));
+  line->Qty = convert.ToLong(cell(kQuantity));
+  line->TransNotes = cell(kDescription);
+  line->charge = convert.ToCurrency(cell(kTotal));
+  line->BackOrder = cell(kBackOrder).empty() ? 0 : convert.ToLong(cell(kBackOrder));
+  line->SaveTransAccess();
   globals.ItemsChanged = true;
-  ItemList.SetCell(row, kTransNum, convert.ToText(line.TransNum));
+  ItemList.SetCell(row, kTransNum, convert.ToText(line->TransNum));
 }
 
 // Buttons.

@@ -16,7 +16,7 @@ struct Caller {
 };
 
 constexpr Caller kCallers[] = {{PaymentDate::kForReceipts, Receipts::kName, Receipts::kDate},
-                               {PaymentDate::kForRegistry, "GL", 2}};
+                               {PaymentDate::kForRegistry, screen::kGL, 2}};
 
 /// Nothing if nobody has opened the calendar yet.
 const Caller* CallerOf(const Globals& globals) {

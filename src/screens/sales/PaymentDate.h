@@ -8,7 +8,7 @@ namespace norvane {
 /// whoever opened it.
 class PaymentDate : public Form {
  public:
-  static constexpr const char* kName = "PaymentDate";
+  static constexpr const char* kName = screen::kPaymentDate;
   // What PayDateCaller says of who opens it.
   static constexpr const char* kForReceipts = "Receipts";
   static constexpr const char* kForRegistry = "Payments";

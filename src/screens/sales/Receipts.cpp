@@ -5,8 +5,8 @@
 
 #include "data/Client.h"
 #include "data/Invoice.h"
+#include "forms/DatePair.h"
 #include "screens/KeyedList.h"
-#include "screens/Opening.h"
 #include "screens/clients/CustSearch.h"
 #include "screens/sales/CustInvoices.h"
 #include "screens/sales/PaymentDate.h"
@@ -39,19 +39,18 @@ Receipts::Receipts(Program& host)
   PaymentList.SetTop(900);
   for (Button* button : {&Command2, &btnPrint}) button->SetWidth(480);
   SetLayout(Column({Strip({Field("View Payments Received from:", CmbReceipt),
-                           Field("Since:", Row({txtSinceDate, DTPicker1})), btnGo, Space(), btnPrint, Command2}),
+                           DateField("Since:", txtSinceDate, DTPicker1), btnGo, Space(), btnPrint, Command2}),
                     Stretch(Row({Column({btnNew, btnDelete, Space()}), Stretch(PaymentList)}))}));
   SetExitButton(Command2);
-  DTPicker1.Change = [this] { txtSinceDate.SetText(MaskedDateText(DTPicker1.Value())); };
+  WritePickedDate(DTPicker1, txtSinceDate);
   btnGo.Click = [this] { btnGo_Click(); };
   PaymentList.Click = [this] { PaymentList_Click(); };
   PaymentList.GotFocus = [this] { PaymentList_GotFocus(); };
   PaymentList.AfterEdit = [this](int row, int col) { PaymentList_AfterEdit(row, col); };
   PaymentList.CellButtonClick = [this](int row, int col) { PaymentList_CellButtonClick(row, col); };
-  btnNew.Click = [this] { btnNew_Click(); };
+  btnNew.Click = Trapping("Receipts.btnNew_Click -", [this] { rows_.GoToNewRow(); });
   btnDelete.Click = [this] { btnDelete_Click(); };
-  btnPrint.Click = [this] { btnPrint_Click(); };
-  btnPrint.SetEnabled(screens.Has("PrtReceipt"));
+  WireTo(btnPrint, screen::kPrtReceipt, [this] { btnPrint_Click(); });
   Command2.Click = [this] { Unload(); };
 }
 
@@ -60,15 +59,14 @@ Receipts::Receipts(Program& host)
 void Receipts::Form_Load() {
   PaymentList.SetFocus();
   Trapped("Receipts.Form_Load -", [&] {
-    screens.Show("GettingReceipts");
+    screens.Show(screen::kGettingReceipts);
     ReadGeometry(kSection);
-    DTPicker1.SetValue(Date::FromYearMonthDay((desktop.Today() - 365).Year(), 1, 1));
-    txtSinceDate.SetText(MaskedDateText(DTPicker1.Value()));
+    SetDates(DTPicker1, txtSinceDate, Date::FromYearMonthDay((desktop.Today() - 365).Year(), 1, 1));
     SinceDate = DTPicker1.Value();
     for (const char* item : {kSelectedClient, kAllClients}) CmbReceipt.AddItem(item);
     CmbReceipt.SetText(globals.CurCustNum == kEveryClient ? kAllClients : kSelectedClient);
     SetPayments();
-    screens.Unload("GettingReceipts");
+    screens.Unload(screen::kGettingReceipts);
   });
 }
 
@@ -83,35 +81,37 @@ void Receipts::SetPayments() {
 }
 
 void Receipts::ReadPayments() {
-  Invoice& payments = *globals.oInvoice;
-  payments.OpenCn();
-  if (std::exchange(DeletePending, false)) payments.DeletePayment(SelPayNum);
-  rsPayments = payments.AllPayments(SinceDate, globals.CurCustNum);
-  payments.CloseCn();
+  const Object<Invoice> payments = globals.oInvoice;
+  payments->OpenCn();
+  if (std::exchange(DeletePending, false)) payments->DeletePayment(SelPayNum);
+  rsPayments = payments->AllPayments(SinceDate, globals.CurCustNum);
+  payments->CloseCn();
 }
 
 void Receipts::SetUpGrid() {
   PaymentList.Clear();
-  PaymentList.SetCols(9);
   PaymentList.SetRows(2);
-  PaymentList.SetFormatString("^|TransNum|CustNum|Date|Type|Card/Check#|Client|>Amount|Notes");
-  const Twips widths[] = {300, 0, 0, 1000, 1300, 1700, 1500, 1000, 1400};
-  for (int col = 0; col < 9; ++col) PaymentList.SetColWidth(col, widths[col]);
-  for (int col : {kClient, kDate}) PaymentList.SetColComboList(col, "...");
-  PaymentList.SetColDataType(kDate, ColumnType::Date);
-  PaymentList.SetColDataType(kAmount, ColumnType::Currency);
+  PaymentList.SetColumns({{"^", 300},
+                          {"TransNum", 0},
+                          {"CustNum", 0},
+                          {"Date", 1000, ColumnType::Date, "..."},
+                          {"Type", 1300},
+                          {"Card/Check#", 1700},
+                          {"Client", 1500, ColumnType::Plain, "..."},
+                          {">Amount", 1000, ColumnType::Currency},
+                          {"Notes", 1400}});
 }
 
 // The second card is offered under the first one's number.
 void Receipts::ReadCards() {
-  Client& client = *globals.oClient;
-  client.OpenCn();
-  client.GetClient(globals.CurCustNum);
-  CardType1 = client.PaymentType1;
-  CardType2 = client.PaymentType2;
-  CardNo1 = client.CardNum1;
-  CardNo2 = client.CardNum1;
-  client.CloseCn();
+  const Object<Client> client = globals.oClient;
+  client->OpenCn();
+  client->GetClient(globals.CurCustNum);
+  CardType1 = client->PaymentType1;
+  CardType2 = client->PaymentType2;
+  CardNo1 = client->CardNum1;
+  CardNo2 = client->CardNum1;
+  client->CloseCn();
 }
 
 std::string Receipts::TypeItems() const {
@@ -130,9 +130,9 @@ void Receipts::ListPayments() {
 }
 
 std::string Receipts::CellsOf(const Recordset& payment) const {
-  return "\t" + payment.Text("TransNum") + "\t" + payment.Text("CustNum") + "\t" +
-         convert.ToText(payment.Field("Date")) + "\t" + payment.Text("Type") + "\t" + payment.Text("Checknum") + "\t" +
-         payment.Text("Fullname") + "\t" + convert.CurrencyText(payment.Field("amount")) + "\t" + payment.Text("Notes");
+  return GridRow({"", payment.Text("TransNum"), payment.Text("CustNum"), convert.ToText(payment.Field("Date")),
+                  payment.Text("Type"), payment.Text("Checknum"), payment.Text("Fullname"),
+                  convert.CurrencyText(payment.Field("amount")), payment.Text("Notes")});
 }
 
 // Which payments.
@@ -249,27 +249,23 @@ void Receipts::SaveRow() {
 // All is read before the connection opens, so that what can't be read leaves none open.
 void Receipts::StoreRow(std::int32_t row) {
   const std::string key = PaymentList.Cell(row, kTransNum);
-  Invoice& payment = *globals.oInvoice;
-  payment.PayNum = key.empty() ? 0 : convert.ToLong(key);
-  payment.CustNum = convert.ToLong(PaymentList.Cell(row, kCustNum));
-  payment.Paytype = PaymentList.DisplayText(row, kType);
-  payment.Checknum = PaymentList.Cell(row, kCheckNum);
-  payment.PayDate = convert.ToDate(PaymentList.Cell(row, kDate));
-  payment.Payment = convert.ToCurrency(convert.CurrencyText(std::string_view(PaymentList.Cell(row, kAmount))));
-  payment.PayNotes = PaymentList.Cell(row, kNotes);
-  payment.OpenCn();
-  payment.SavePayment();
-  PaymentList.SetCell(row, kTransNum, convert.ToText(payment.PayNum));
+  const Object<Invoice> payment = globals.oInvoice;
+  payment->PayNum = key.empty() ? 0 : convert.ToLong(key);
+  payment->CustNum = convert.ToLong(PaymentList.Cell(row, kCustNum));
+  payment->Paytype = PaymentList.DisplayText(row, kType);
+  payment->Checknum = PaymentList.Cell(row, kCheckNum);
+  payment->PayDate = convert.ToDate(PaymentList.Cell(row, kDate));
+  payment->Payment = convert.ToCurrency(convert.CurrencyText(std::string_view(PaymentList.Cell(row, kAmount))));
+  payment->PayNotes = PaymentList.Cell(row, kNotes);
+  payment->OpenCn();
+  payment->SavePayment();
+  PaymentList.SetCell(row, kTransNum, convert.ToText(std::int32_t{payment->PayNum}));
   rows_.SetOldRowStatus();
   if (rows_.OldRow != rows_.NewRow) rows_.SetNewRowStatus();
-  payment.CloseCn();
+  payment->CloseCn();
 }
 
 // Buttons.
-
-void Receipts::btnNew_Click() {
-  Trapped("Receipts.btnNew_Click -", [&] { rows_.GoToNewRow(); });
-}
 
 // A row must have been clicked; the one that the question names goes, also if the cursor came to it without a click.
 void Receipts::btnDelete_Click() {
@@ -291,7 +287,7 @@ void Receipts::btnPrint_Click() {
   if (PaymentList.Cell(PaymentList.Row(), kDate).empty()) {
     desktop.Say("Select payment with valid date for printing receipt.");
   } else {
-    ShowAnew(screens, "PrtReceipt");
+    screens.Reopen(screen::kPrtReceipt);
   }
 }
 

@@ -13,7 +13,7 @@ namespace norvane {
 /// The payments received since a date, of the selected client or of all, edited in place.
 class Receipts : public Form {
  public:
-  static constexpr const char* kName = "Receipts";
+  static constexpr const char* kName = screen::kReceipts;
   explicit Receipts(Program& program);
 
   /// The columns of PaymentList. A type chosen from the drop-down is held as the item's key.
@@ -53,7 +53,6 @@ class Receipts : public Form {
   void SaveRow();
   void StoreRow(std::int32_t row);
 
-  void btnNew_Click();
   void btnDelete_Click();
   void btnPrint_Click();
   void Form_Resize() override;

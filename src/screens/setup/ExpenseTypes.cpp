@@ -8,7 +8,7 @@ namespace {
 constexpr TypeListKind kExpenseTypes{
     .name = ExpenseTypes::kName,
     .caption = "Edit / Add Expense Types",
-    .formatString = "^|Expense Types",
+    .heading = "Expense Types",
     .list = &Globals::rsExpenseTypes,
     .read = &cSetup::rsExpenseTypes,
     .save = &cSetup::SaveExpenseType,

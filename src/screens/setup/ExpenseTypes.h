@@ -7,7 +7,7 @@ namespace norvane {
 /// The expense types that registry entries choose from.
 class ExpenseTypes : public TypeList {
  public:
-  static constexpr const char* kName = "ExpenseTypes";
+  static constexpr const char* kName = screen::kExpenseTypes;
   explicit ExpenseTypes(Program& program);
 };
 

@@ -7,7 +7,7 @@ namespace {
 constexpr TypeListKind kPaymentTypes{
     .name = PaymentCategories::kName,
     .caption = "Edit / Add Payment Categories",
-    .formatString = "^|Payment Type",
+    .heading = "Payment Type",
     .list = &Globals::rsPaymentTypes,
     .read = &cSetup::rsPaymentTypes,
     .save = &cSetup::SavePaymentType,

@@ -7,7 +7,7 @@ namespace norvane {
 /// The payment types that clients and their payments choose from.
 class PaymentCategories : public TypeList {
  public:
-  static constexpr const char* kName = "PaymentCategories";
+  static constexpr const char* kName = screen::kPaymentCategories;
   explicit PaymentCategories(Program& program);
 };
 

@@ -12,16 +12,16 @@ ShippingTypes::ShippingTypes(Program& host)
                         .setNewRowStatus = "ShippingTypes.SetNewRowStatus -",
                         .afterRowEdit = "ShippingTypes.ShippingList_AfterRowEdit -",
                         .rowColChange = "ShippingTypes.RowColChange -"},
-             .testColumns = {1},
+             .testColumns = {kService},
              .zeroMeansStarted = false},
             [this] { SaveRow(); }) {
   SetLayout(
       layout::Column({layout::Stretch(ShippingList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
   SetExitButton(btnExit);
-  ShippingList.GotFocus = [this] { ShippingList.SetCol(1); };
+  ShippingList.GotFocus = [this] { ShippingList.SetCol(kService); };
   ShippingList.AfterEdit = [this](int row, int) { ShippingList_AfterEdit(row); };
   ShippingList.Click = [this] { ShippingList_Click(); };
-  btnNew.Click = [this] { btnNew_Click(); };
+  btnNew.Click = Trapping("ShippingTypes.btnNew_Click -", [this] { rows_.GoToNewRow(); });
   btnDelete.Click = [this] { btnDelete_Click(); };
   btnExit.Click = [this] { btnExit_Click(); };
 }
@@ -29,18 +29,15 @@ ShippingTypes::ShippingTypes(Program& host)
 void ShippingTypes::Form_Load() {
   Trapped("ShippingTypes.Form_Load -", [&] {
     ShippingList.Clear();
-    ShippingList.SetCols(4);
-    ShippingList.SetFormatString("^|Service|Weight|Charge");
-    const Twips widths[] = {300, 2000, 1400, 700};
-    for (int col = 0; col < 4; ++col) ShippingList.SetColWidth(col, widths[col]);
+    ShippingList.SetColumns({{"^", 300}, {"Service", 2000}, {"Weight", 1400}, {"Charge", 700}});
     ShippingList.SetTopRow(1);
-    Recordset& options = *globals.rsShippingTypes;
-    if (options.RecordCount() > 0) options.MoveFirst();
-    for (; !options.Eof(); options.MoveNext()) {
-      ShippingList.AddItem("\t" + options.Text("Service") + "\t" + options.Text("Option") + "\t" +
-                           convert.CurrencyText(options.Field("charge")));
+    const Object<Recordset> options = globals.rsShippingTypes;
+    if (options->RecordCount() > 0) options->MoveFirst();
+    for (; !options->Eof(); options->MoveNext()) {
+      ShippingList.AddItem(GridRow(
+          {"", options->Text("Service"), options->Text("Option"), convert.CurrencyText(options->Field("charge"))}));
     }
-    ShippingList.SetRows(options.RecordCount() + 1);
+    ShippingList.SetRows(options->RecordCount() + 1);
     if (ShippingList.Rows() == 1) {
       ShippingList.SetRows(2);
       rows_.SetMarker(1, "*");
@@ -49,7 +46,7 @@ void ShippingTypes::Form_Load() {
 }
 
 bool ShippingTypes::HasKey(std::int32_t row) const {
-  return !ShippingList.Cell(row, 1).empty() && !ShippingList.Cell(row, 2).empty();
+  return !ShippingList.Cell(row, kService).empty() && !ShippingList.Cell(row, kWeight).empty();
 }
 
 void ShippingTypes::ShippingList_AfterEdit(int row) {
@@ -71,10 +68,10 @@ void ShippingTypes::SaveRow() {
 
 void ShippingTypes::StoreRow(std::int32_t row) {
   globals.oSetup->OpenCn();
-  const std::string service = ShippingList.Cell(row, 1);
-  const std::string option = ShippingList.Cell(row, 2);
-  if (ShippingList.Cell(row, 3).empty()) ShippingList.SetCell(row, 3, "0");
-  globals.oSetup->SaveShippingType(service, option, convert.ToCurrency(ShippingList.Cell(row, 3)));
+  const std::string service = ShippingList.Cell(row, kService);
+  const std::string option = ShippingList.Cell(row, kWeight);
+  if (ShippingList.Cell(row, kCharge).empty()) ShippingList.SetCell(row, kCharge, "0");
+  globals.oSetup->SaveShippingType(service, option, convert.ToCurrency(ShippingList.Cell(row, kCharge)));
   ReadList();
   globals.oSetup->CloseCn();
   rows_.SetMarker(row, "");
@@ -87,21 +84,17 @@ void ShippingTypes::ReadList() {
 void ShippingTypes::ShippingList_Click() {
   Trapped("ShippingTypes.ShippingList_Click -", [&] {
     if (ShippingList.Row() < 1) return;
-    SelectedType = ShippingList.Cell(ShippingList.Row(), 1);
-    SelectedOption = ShippingList.Cell(ShippingList.Row(), 2);
+    SelectedType = ShippingList.Cell(ShippingList.Row(), kService);
+    SelectedOption = ShippingList.Cell(ShippingList.Row(), kWeight);
   });
-}
-
-void ShippingTypes::btnNew_Click() {
-  Trapped("ShippingTypes.btnNew_Click -", [&] { rows_.GoToNewRow(); });
 }
 
 void ShippingTypes::btnDelete_Click() {
   Trapped("ShippingTypes.btnDelete_Click -", [&] {
     const int row = ShippingList.Row();
     if (row < 1) return;
-    SelectedType = ShippingList.Cell(row, 1);
-    SelectedOption = ShippingList.Cell(row, 2);
+    SelectedType = ShippingList.Cell(row, kService);
+    SelectedOption = ShippingList.Cell(row, kWeight);
     if (SelectedType.empty()) return;
     if (!AskYesNo("Delete Shipping Option ... " + SelectedType + "?", "Delete Shipping Option?")) return;
     globals.oSetup->OpenCn();

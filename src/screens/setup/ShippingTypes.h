@@ -11,8 +11,11 @@ namespace norvane {
 /// and a changed service or weight stands in the table beside the old one.
 class ShippingTypes : public Form {
  public:
-  static constexpr const char* kName = "ShippingTypes";
+  static constexpr const char* kName = screen::kShippingTypes;
   explicit ShippingTypes(Program& program);
+
+  /// The columns of ShippingList.
+  enum OptionColumn { kMarker, kService, kWeight, kCharge };
 
   Grid ShippingList{*this, "ShippingList", GridKind::Editable};
   Button btnNew{*this, "btnNew", {.caption = "&New", .icon = "add"}};
@@ -26,7 +29,6 @@ class ShippingTypes : public Form {
   void SaveRow();
   void StoreRow(std::int32_t row);
   void ReadList();
-  void btnNew_Click();
   void btnDelete_Click();
   void btnExit_Click();
   bool HasKey(std::int32_t row) const;

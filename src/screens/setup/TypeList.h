@@ -9,11 +9,11 @@
 
 namespace norvane {
 
-/// What a list of names with one table behind it states of its own.
+/// What is particular to each list of names that one table holds.
 struct TypeListKind {
   const char* name;
   const char* caption;
-  const char* formatString;
+  const char* heading;
   Object<Recordset> Globals::*list;  ///< the shared list, read anew after each change
   Object<Recordset> (cSetup::*read)();
   void (cSetup::*save)(const std::string&);
@@ -25,10 +25,13 @@ struct TypeListKind {
 };
 
 /// A lookup table of names, edited in place. The name is the key, so an edit is stored at once, as a further row: a
-/// changed name stands in the table beside the old one.
+/// changed name is in the table beside the old one.
 class TypeList : public Form {
  public:
   TypeList(Program& program, const TypeListKind& kind);
+
+  /// The columns of PaymentList.
+  enum TypeColumn { kMarker, kType };
 
   Grid PaymentList{*this, "PaymentList", GridKind::Editable};
   Button btnNew{*this, "btnNew", {.caption = "&New", .icon = "add"}};
@@ -45,7 +48,6 @@ class TypeList : public Form {
   void PaymentList_Click();
   void SaveRow();
   void ReadList();
-  void btnNew_Click();
   void btnDelete_Click();
 
   const TypeListKind& kind_;

@@ -28,19 +28,19 @@ frmSetup::frmSetup(Program& host) : Form(host, kName, {.caption = "Setup", .resi
 // Filling the boxes counts as a change, so in ordinary use the exit saves. The connection stays open until then.
 void frmSetup::Form_Load() {
   Trapped("frmsetup.Form_Load -", [&] {
-    cSetup& company = *globals.oSetup;
-    company.OpenCn();
-    company.GetCompanyInfo();
-    txtCoName.SetText(company.Name);
-    txtCoAddress1.SetText(company.Address1);
-    txtCoAddress2.SetText(company.Address2);
-    txtCoCity.SetText(company.City);
-    txtCoState.SetText(company.State);
-    TxtCoZipCode.SetText(company.ZipCode);
-    txtCoPhone.SetText(company.Phone);
-    txtCoFax.SetText(company.Fax);
-    txtCoWebSite.SetText(company.WebSite);
-    txtCoStateTaxRate.SetText(convert.ToText(company.Statetaxrate));
+    const Object<cSetup> company = globals.oSetup;
+    company->OpenCn();
+    company->GetCompanyInfo();
+    txtCoName.SetText(company->Name);
+    txtCoAddress1.SetText(company->Address1);
+    txtCoAddress2.SetText(company->Address2);
+    txtCoCity.SetText(company->City);
+    txtCoState.SetText(company->State);
+    TxtCoZipCode.SetText(company->ZipCode);
+    txtCoPhone.SetText(company->Phone);
+    txtCoFax.SetText(company->Fax);
+    txtCoWebSite.SetText(company->WebSite);
+    txtCoStateTaxRate.SetText(convert.ToText(company->Statetaxrate));
   });
 }
 
@@ -57,17 +57,17 @@ void frmSetup::btnExit_Click() {
 }
 
 void frmSetup::TakeFromControls() {
-  cSetup& company = *globals.oSetup;
-  company.Name = txtCoName.Text();
-  company.Address1 = txtCoAddress1.Text();
-  company.Address2 = txtCoAddress2.Text();
-  company.City = txtCoCity.Text();
-  company.State = txtCoState.Text();
-  company.ZipCode = TxtCoZipCode.Text();
-  company.Phone = txtCoPhone.Text();
-  company.Fax = txtCoFax.Text();
-  company.WebSite = txtCoWebSite.Text();
-  company.Statetaxrate = Val(txtCoStateTaxRate.Text());
+  const Object<cSetup> company = globals.oSetup;
+  company->Name = txtCoName.Text();
+  company->Address1 = txtCoAddress1.Text();
+  company->Address2 = txtCoAddress2.Text();
+  company->City = txtCoCity.Text();
+  company->State = txtCoState.Text();
+  company->ZipCode = TxtCoZipCode.Text();
+  company->Phone = txtCoPhone.Text();
+  company->Fax = txtCoFax.Text();
+  company->WebSite = txtCoWebSite.Text();
+  company->Statetaxrate = Val(txtCoStateTaxRate.Text());
 }
 
 }  // namespace norvane

@@ -7,7 +7,7 @@ namespace norvane {
 /// The company's own data, and the way to payment types and shipping options.
 class frmSetup : public Form {
  public:
-  static constexpr const char* kName = "frmSetup";
+  static constexpr const char* kName = screen::kfrmSetup;
   explicit frmSetup(Program& program);
 
   Frame Frame1{*this, "Frame1", "Company Info"};

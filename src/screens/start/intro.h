@@ -7,7 +7,7 @@ namespace norvane {
 /// The splash, which tells what is being loaded.
 class intro : public Splash {
  public:
-  static constexpr const char* kName = "intro";
+  static constexpr const char* kName = screen::kintro;
   explicit intro(Program& program);
 
   Label lblProcess{*this, "lblProcess", "Loading..."};

@@ -32,17 +32,14 @@ void InvSearch::Form_Load() {
   Trapped("InvSearch.Form_Load -", [&] {
     GetInventory(workspace, globals.CurCatNum, 0);
     InventoryList.Clear();
-    InventoryList.SetCols(4);
-    InventoryList.SetFormatString("Item#|Description|Charge|In Stock");
-    const Twips widths[] = {800, 4000, 800, 500};
-    for (int col = 0; col < 4; ++col) InventoryList.SetColWidth(col, widths[col]);
+    InventoryList.SetColumns({{"Item#", 800}, {"Description", 4000}, {"Charge", 800}, {"In Stock", 500}});
     InventoryList.SetTopRow(1);
     ListItems();
     InventoryList.SetRows(globals.rsInventory->RecordCount() + 1);
     if (globals.rsCategories->RecordCount() == 0) {
       // There is nothing to pick before a category exists.
       Unload();
-      screens.Show("frmInventory");
+      screens.Show(screen::kfrmInventory);
     } else {
       OfferCategories(cmbCategory, *globals.rsCategories);
     }
@@ -50,9 +47,9 @@ void InvSearch::Form_Load() {
 }
 
 void InvSearch::ListItems() {
-  for (Recordset& items = *globals.rsInventory; !items.Eof(); items.MoveNext()) {
-    InventoryList.AddItem(items.Text("ItemNum") + "\t" + items.Text("description") + "\t" +
-                          convert.CurrencyText(items.Field("charge")) + "\t" + items.Text("InStock"));
+  for (const Object<Recordset> items = globals.rsInventory; !items->Eof(); items->MoveNext()) {
+    InventoryList.AddItem(GridRow({items->Text("ItemNum"), items->Text("description"),
+                                   convert.CurrencyText(items->Field("charge")), items->Text("InStock")}));
   }
 }
 
@@ -110,7 +107,7 @@ void InvSearch::MarkBackOrder(InvoiceDetail& invoice) {
   Grid& lines = invoice.ItemList;
   if (invoice.IsShort()) {
     lines.SetCell(row, InvoiceDetail::kBackOrder, "-1");
-    invoice.TellBackOrder(row);
+    invoice.ReportBackOrder(row);
   } else {
     lines.SetCell(row, InvoiceDetail::kBackOrder, "");
     if (globals.QtyLeft == 0) {
@@ -128,7 +125,7 @@ void InvSearch::StoreLine(InvoiceDetail& invoice) {
 
 void InvSearch::btnInventory_Click() {
   globals.CurCatNum = 1;
-  screens.Show("frmInventory");
+  screens.Show(screen::kfrmInventory);
 }
 
 }  // namespace norvane

@@ -9,7 +9,7 @@ class InvoiceDetail;
 /// Picks an item and adds one unit of it to the invoice that stands open, as a new line that is stored at once.
 class InvSearch : public Form {
  public:
-  static constexpr const char* kName = "InvSearch";
+  static constexpr const char* kName = screen::kInvSearch;
   explicit InvSearch(Program& program);
 
   ComboBox cmbCategory{*this, "cmbCategory", ComboStyle::ItemsOnly, 32};

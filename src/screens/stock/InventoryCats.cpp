@@ -15,12 +15,12 @@ InventoryCats::InventoryCats(Program& host)
                         .setNewRowStatus = "InventoryCats.SetNewRowStatus -",
                         .afterRowEdit = "InventoryCats.InventoryList_AfterRowEdit -",
                         .rowColChange = "InventoryCats.InventoryList_RowColChange -"},
-             .testColumns = {2}},
+             .testColumns = {kDescription}},
             [this] { SaveRow(); }) {
   SetLayout(
       layout::Column({layout::Stretch(InventoryList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
   SetExitButton(btnExit);
-  InventoryList.GotFocus = [this] { InventoryList.SetCol(2); };
+  InventoryList.GotFocus = [this] { InventoryList.SetCol(kDescription); };
   InventoryList.AfterEdit = [this](int row, int) { InventoryList_AfterEdit(row); };
   InventoryList.Click = [this] { InventoryList_Click(); };
   btnNew.Click = [this] { rows_.GoToNewRow(); };
@@ -31,17 +31,14 @@ InventoryCats::InventoryCats(Program& host)
 void InventoryCats::Form_Load() {
   Trapped("InventoryCats.Form_Load -", [&] {
     InventoryList.Clear();
-    InventoryList.SetFormatString("^|Category#|Description");
-    InventoryList.SetColWidth(0, 300);
-    InventoryList.SetColWidth(1, 0);
-    InventoryList.SetColWidth(2, 1500);
+    InventoryList.SetColumns({{"^", 300}, {"Category#", 0}, {"Description", 1500}});
     InventoryList.SetTopRow(1);
-    Recordset& categories = *globals.rsCategories;
-    if (categories.RecordCount() > 0) categories.MoveFirst();
-    for (; !categories.Eof(); categories.MoveNext()) {
-      InventoryList.AddItem("\t" + categories.Text("CatNum") + "\t" + categories.Text("description"));
+    const Object<Recordset> categories = globals.rsCategories;
+    if (categories->RecordCount() > 0) categories->MoveFirst();
+    for (; !categories->Eof(); categories->MoveNext()) {
+      InventoryList.AddItem(GridRow({"", categories->Text("CatNum"), categories->Text("description")}));
     }
-    InventoryList.SetRows(categories.RecordCount() + 1);
+    InventoryList.SetRows(categories->RecordCount() + 1);
     if (InventoryList.Rows() == 1) {
       InventoryList.SetRows(2);
       rows_.SetMarker(1, "*");
@@ -51,7 +48,7 @@ void InventoryCats::Form_Load() {
 
 void InventoryCats::InventoryList_AfterEdit(int row) {
   Trapped("InventoryCats.InventoryList_AfterEdit -", [&] {
-    if (InventoryList.Cell(row, 2).empty()) return;
+    if (InventoryList.Cell(row, kDescription).empty()) return;
     rows_.TakeCurrentRow();
     SaveRow();
   });
@@ -60,14 +57,14 @@ void InventoryCats::InventoryList_AfterEdit(int row) {
 void InventoryCats::SaveRow() {
   Trapped("InventoryCats.SaveRow -", [&] {
     const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && !InventoryList.Cell(row, 2).empty()) {
-      Inventory& inventory = *globals.oInventory;
-      inventory.OpenCn();
-      if (InventoryList.Cell(row, 1).empty()) InventoryList.SetCell(row, 1, "0");
-      inventory.CatNum = convert.ToLong(InventoryList.Cell(row, 1));
-      inventory.SaveCategory(inventory.CatNum, InventoryList.Cell(row, 2));
-      InventoryList.SetCell(row, 1, convert.ToText(inventory.CatNum));
-      inventory.CloseCn();
+    if (row > 0 && !InventoryList.Cell(row, kDescription).empty()) {
+      const Object<Inventory> inventory = globals.oInventory;
+      inventory->OpenCn();
+      if (InventoryList.Cell(row, kCatNum).empty()) InventoryList.SetCell(row, kCatNum, "0");
+      inventory->CatNum = convert.ToLong(InventoryList.Cell(row, kCatNum));
+      inventory->SaveCategory(inventory->CatNum, InventoryList.Cell(row, kDescription));
+      InventoryList.SetCell(row, kCatNum, convert.ToText(std::int32_t{inventory->CatNum}));
+      inventory->CloseCn();
       rows_.SetMarker(row, "");
     }
     globals.RowChanged = false;
@@ -82,9 +79,9 @@ void InventoryCats::InventoryList_Click() {
 }
 
 void InventoryCats::SelectRow(int row) {
-  const std::string key = InventoryList.Cell(row, 1);
+  const std::string key = InventoryList.Cell(row, kCatNum);
   globals.CurCatNum = key.empty() ? 0 : convert.ToLong(key);
-  SelCatName = key.empty() ? "" : InventoryList.Cell(row, 2);
+  SelCatName = key.empty() ? "" : InventoryList.Cell(row, kDescription);
 }
 
 void InventoryCats::btnDelete_Click() {

@@ -10,8 +10,11 @@ namespace norvane {
 /// The inventory's categories, edited in place and stored at once. Leaving brings the inventory up anew on category 1.
 class InventoryCats : public Form {
  public:
-  static constexpr const char* kName = "InventoryCats";
+  static constexpr const char* kName = screen::kInventoryCats;
   explicit InventoryCats(Program& program);
+
+  /// The columns of InventoryList.
+  enum CategoryColumn { kMarker, kCatNum, kDescription };
 
   Grid InventoryList{*this, "InventoryList", GridKind::Editable};
   Button btnNew{*this, "btnNew", {.caption = "&New", .icon = "add"}};

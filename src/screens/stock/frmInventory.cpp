@@ -18,17 +18,17 @@ frmInventory::frmInventory(Program& host)
                         .afterRowEdit = "frmInventory.InventoryList_AfterRowEdit -",
                         .rowColChange = "frmInventory.InventoryList_RowColChange -",
                         .lostFocus = "frmInventory.InventoryList_LostFocus -"},
-             .testColumns = {2}},
+             .testColumns = {kDescription}},
             [this] { SaveRow(); }) {
   using namespace layout;
   SetLayout(Column({Strip({Field("Category:", cmbCategory), btnCategories, Space(), btnNewItem, btnDelete, Command2}),
                     Stretch(InventoryList)}));
   SetExitButton(Command2);
   cmbCategory.Click = [this] { cmbCategory_Click(); };
-  InventoryList.GotFocus = [this] { InventoryList.SetCol(2); };
+  InventoryList.GotFocus = [this] { InventoryList.SetCol(kDescription); };
   InventoryList.AfterEdit = [this](int row, int) { InventoryList_AfterEdit(row); };
   InventoryList.Click = [this] { InventoryList_Click(); };
-  btnNewItem.Click = [this] { btnNewItem_Click(); };
+  btnNewItem.Click = Trapping("frmInventory.btnNewItem_Click -", [this] { rows_.GoToNewRow(); });
   btnDelete.Click = [this] { btnDelete_Click(); };
   btnCategories.Click = [this] { btnCategories_Click(); };
   Command2.Click = [this] { Unload(); };
@@ -39,12 +39,12 @@ frmInventory::frmInventory(Program& host)
 void frmInventory::Form_Load() {
   Trapped("frmInventory.Form_Load -", [&] {
     desktop.DoEvents();
-    screens.Show("GettingInventory");
+    screens.Show(screen::kGettingInventory);
     desktop.DoEvents();
     CatShown = globals.CurCatNum;
     GetInventory(workspace, CatShown, SelItemNum);
     SetForm();
-    screens.Unload("GettingInventory");
+    screens.Unload(screen::kGettingInventory);
   });
 }
 
@@ -67,36 +67,38 @@ void frmInventory::SetForm() {
 
 void frmInventory::SetUpGrid() {
   InventoryList.Clear();
-  InventoryList.SetCols(7);
   InventoryList.SetRows(2);
-  InventoryList.SetFormatString("^|Item#|Item Description|>Charge|>Par|>In Stock|Warranty");
-  const Twips widths[] = {300, 0, 2500, 1000, 800, 800, 1500};
-  for (int col = 0; col < 7; ++col) InventoryList.SetColWidth(col, widths[col]);
-  InventoryList.SetColDataType(3, ColumnType::Currency);
+  InventoryList.SetColumns({{"^", 300},
+                            {"Item#", 0},
+                            {"Item Description", 2500},
+                            {">Charge", 1000, ColumnType::Currency},
+                            {">Par", 800},
+                            {">In Stock", 800},
+                            {"Warranty", 1500}});
   ItemRow = 1;
 }
 
 void frmInventory::ListItems() {
-  Recordset& items = *globals.rsInventory;
-  for (items.MoveFirst(); !items.Eof(); items.MoveNext()) {
-    InventoryList.AddItem("\t" + items.Text("ItemNum") + "\t" + items.Text("description") + "\t" +
-                              convert.CurrencyText(items.Field("charge")) + "\t" + items.Text("Par") + "\t" +
-                              items.Text("InStock") + "\t" + items.Text("Warranty"),
-                          ItemRow);
+  const Object<Recordset> items = globals.rsInventory;
+  for (items->MoveFirst(); !items->Eof(); items->MoveNext()) {
+    InventoryList.AddItem(
+        GridRow({"", items->Text("ItemNum"), items->Text("description"), convert.CurrencyText(items->Field("charge")),
+                 items->Text("Par"), items->Text("InStock"), items->Text("Warranty")}),
+        ItemRow);
     ++ItemRow;
   }
 }
 
 void frmInventory::FillCategories() {
-  Recordset& categories = *globals.rsCategories;
-  if (categories.RecordCount() == 0) {
+  const Object<Recordset> categories = globals.rsCategories;
+  if (categories->RecordCount() == 0) {
     desktop.Say(
         "No categories for which to enter inventory.  Please enter a category, for example...General, Labor, "
         "Services, Hardware, Software, Foods, Books, CD's, etc.");
     btnCategories_Click();
     return;
   }
-  OfferCategories(cmbCategory, categories);
+  OfferCategories(cmbCategory, *categories);
 }
 
 void frmInventory::cmbCategory_Click() {
@@ -125,7 +127,7 @@ void frmInventory::cmbCategory_Click() {
 // Editing.
 
 bool frmInventory::IsComplete(int row) const {
-  for (int col = 2; col <= 5; ++col) {
+  for (int col = kDescription; col <= kInStock; ++col) {
     if (InventoryList.Cell(row, col).empty()) return false;
   }
   return true;
@@ -135,11 +137,11 @@ void frmInventory::InventoryList_AfterEdit(int row) {
   Trapped("frmInventory.InventoryList_AfterEdit -", [&] {
     rows_.TakeCurrentRow();
     if (IsComplete(row)) {
-      InventoryList.SetCell(row, 3, convert.CurrencyText(std::string_view(InventoryList.Cell(row, 3))));
+      InventoryList.SetCell(row, kCharge, convert.CurrencyText(std::string_view(InventoryList.Cell(row, kCharge))));
       globals.RowChanged = true;
       const int last = InventoryList.Rows() - 1;
-      if (rows_.NewRow == last && InventoryList.Cell(last, 1).empty()) {
-        InventoryList.SetCell(last, 1, "0");
+      if (rows_.NewRow == last && InventoryList.Cell(last, kItemNum).empty()) {
+        InventoryList.SetCell(last, kItemNum, "0");
         InventoryList.SetRows(InventoryList.Rows() + 1);
       }
     }
@@ -150,47 +152,43 @@ void frmInventory::InventoryList_AfterEdit(int row) {
 void frmInventory::SaveRow() {
   Trapped("frmInventory.SaveRow -", [&] {
     const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && !InventoryList.Cell(row, 2).empty()) StoreRow(row);
+    if (row > 0 && !InventoryList.Cell(row, kDescription).empty()) StoreRow(row);
     globals.RowChanged = false;
   });
 }
 
 // What is typed for the stock replaces the count: stock is taken by editing that column.
 void frmInventory::StoreRow(std::int32_t row) {
-  const std::string key = InventoryList.Cell(row, 1);
+  const std::string key = InventoryList.Cell(row, kItemNum);
   std::int32_t itemNum = key.empty() ? 0 : convert.ToLong(key);
-  for (int col = 4; col <= 6; ++col) {
+  for (int col = kPar; col <= kWarranty; ++col) {
     if (InventoryList.Cell(row, col).empty()) InventoryList.SetCell(row, col, "0");
   }
-  Inventory& item = *globals.oInventory;
-  item.OpenCn();
-  item.Category = CatShown;
-  item.description = InventoryList.Cell(row, 2);
-  item.charge = convert.ToCurrency(InventoryList.Cell(row, 3));
-  item.Par = convert.ToLong(InventoryList.Cell(row, 4));
-  item.InStock = convert.ToLong(InventoryList.Cell(row, 5));
-  item.Warranty = InventoryList.Cell(row, 6);
-  item.SaveItemAccess(itemNum);
-  InventoryList.SetCell(row, 1, convert.ToText(item.ItemNum));
-  InventoryList.SetCell(row, 3, convert.CurrencyText(std::string_view(InventoryList.Cell(row, 3))));
+  const Object<Inventory> item = globals.oInventory;
+  item->OpenCn();
+  item->Category = CatShown;
+  item->description = InventoryList.Cell(row, kDescription);
+  item->charge = convert.ToCurrency(InventoryList.Cell(row, kCharge));
+  item->Par = convert.ToLong(InventoryList.Cell(row, kPar));
+  item->InStock = convert.ToLong(InventoryList.Cell(row, kInStock));
+  item->Warranty = InventoryList.Cell(row, kWarranty);
+  item->SaveItemAccess(itemNum);
+  InventoryList.SetCell(row, kItemNum, convert.ToText(std::int32_t{item->ItemNum}));
+  InventoryList.SetCell(row, kCharge, convert.CurrencyText(std::string_view(InventoryList.Cell(row, kCharge))));
   rows_.SetOldRowStatus();
   if (rows_.NewRow != 0) rows_.SetNewRowStatus();
-  item.CloseCn();
+  item->CloseCn();
 }
 
 void frmInventory::InventoryList_Click() {
   IgnoringErrors([&] {
-    const std::string key = InventoryList.Cell(InventoryList.Row(), 1);
+    const std::string key = InventoryList.Cell(InventoryList.Row(), kItemNum);
     SelItemNum = key.empty() ? 0 : convert.ToLong(key);
-    SelItemName = key.empty() ? "" : InventoryList.Cell(InventoryList.Row(), 2);
+    SelItemName = key.empty() ? "" : InventoryList.Cell(InventoryList.Row(), kDescription);
   });
 }
 
 // Buttons.
-
-void frmInventory::btnNewItem_Click() {
-  Trapped("frmInventory.btnNewItem_Click -", [&] { rows_.GoToNewRow(); });
-}
 
 void frmInventory::btnDelete_Click() {
   Trapped("frmInventory.btnDelete_Click -", [&] {

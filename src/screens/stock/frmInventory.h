@@ -11,8 +11,11 @@ namespace norvane {
 /// The stock items of one category, edited in place.
 class frmInventory : public Form {
  public:
-  static constexpr const char* kName = "frmInventory";
+  static constexpr const char* kName = screen::kfrmInventory;
   explicit frmInventory(Program& program);
+
+  /// The columns of InventoryList.
+  enum ItemColumn { kMarker, kItemNum, kDescription, kCharge, kPar, kInStock, kWarranty };
 
   ComboBox cmbCategory{*this, "cmbCategory", ComboStyle::ItemsOnly, 32};
   Grid InventoryList{*this, "InventoryList", GridKind::Editable};
@@ -36,7 +39,6 @@ class frmInventory : public Form {
   void StoreRow(std::int32_t row);
   void InventoryList_Click();
 
-  void btnNewItem_Click();
   void btnDelete_Click();
   void btnCategories_Click();
 

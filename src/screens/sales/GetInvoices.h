@@ -12,12 +12,12 @@ class Program;
 /// January 1st of this year, since when sales are listed at first.
 Date StartOfYear(const Clock& clock);
 
-/// Makes oInvoice anew, carries out the deletion of CurInvoiceNum if InvoicesStale says that it is pending, and fills
+/// Recreates oInvoice, carries out the deletion of CurInvoiceNum if InvoicesStale says that it is pending, and fills
 /// the sales screen with the selected client's invoices later than `sinceDate` and the balance. The latest invoice
 /// becomes the selected one; without any the selection stays. Reports its errors; the busy notice then stays too.
 void GetInvoices(Program& program, Date sinceDate);
 
-/// Makes oInvoice anew and fills the sales screen with all clients' invoices later than the date on it. The balance
+/// Recreates oInvoice and fills the sales screen with all clients' invoices later than the date on it. The balance
 /// stays as it was, a pending deletion too, and oInvoice's connection stays open. Reports its errors.
 void GetAllInvoices(Program& program);
 

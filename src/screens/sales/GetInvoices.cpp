@@ -1,7 +1,6 @@
-#include "screens/sales/Sales.h"
+#include "screens/sales/GetInvoices.h"
 
 #include <memory>
-#include <string>
 
 #include "core/Trap.h"
 #include "data/Client.h"
@@ -14,14 +13,7 @@ namespace norvane {
 
 namespace {
 
-void SetUpGrid(Grid& list) {
-  list.Clear();
-  list.SetFormatString("Date|Invoice#|Customer#|Last|Name|>Charges|Description");
-  const Twips widths[] = {1000, 800, 0, 0, 2000, 1000, 2000};
-  for (int col = 0; col < 7; ++col) list.SetColWidth(col, widths[col]);
-}
-
-void MakeInvoiceAnew(Program& program) {
+void RecreateInvoice(Program& program) {
   program.globals.oInvoice = std::make_shared<Invoice>(program.workspace);
   program.globals.rsInvoices = std::make_shared<Recordset>();
 }
@@ -31,30 +23,12 @@ void OpenInvoices(Program& program) {
   program.globals.oInvoice->OpenCn();
 }
 
-/// What the invoice comes to. Null if it has no lines, whatever its charges.
-Value ChargeOf(const Recordset& invoice, const Conversions& convert) {
-  const Value lines = invoice.Field("charge");
-  const Value reduction = Multiply(Divide(invoice.Field("Discount"), 100, convert), lines, convert);
-  Value charge = Subtract(lines, reduction, convert);
-  for (const char* extra : {"Tax", "Interest", "ShippingCharge"}) charge = Add(charge, invoice.Field(extra), convert);
-  return charge;
-}
-
-void FillGrid(Grid& list, Recordset& invoices, const Conversions& convert) {
-  for (; !invoices.Eof(); invoices.MoveNext()) {
-    list.AddItem(convert.ToText(invoices.Field("InvoiceDate")) + "\t" + invoices.Text("InvoiceNum") + "\t" +
-                 invoices.Text("CustNum") + "\t\t" + invoices.Text("lname") + ", " + invoices.Text("fname") + "\t" +
-                 convert.CurrencyText(ChargeOf(invoices, convert)) + "\t" + invoices.Text("description"));
-  }
-  if (invoices.RecordCount() > 0) invoices.Close();
-}
-
 void SelectLatest(CustInvoices& sales, Globals& globals) {
   const Grid& list = sales.InvoiceList;
   if (list.Rows() <= 1) return;
   sales.SelectInvoice();
-  // Column 3 is empty, so that the name ends with a blank.
-  globals.CurClientName += " " + list.Cell(list.Row(), 3);
+  // That column is empty, so that the name ends with a space.
+  globals.CurClientName += " " + list.Cell(list.Row(), CustInvoices::kLast);
 }
 
 }  // namespace
@@ -70,24 +44,23 @@ void GetInvoices(Program& program, Date sinceDate) {
     globals.oInvoice.Release();
     globals.rsInvoices.Release();
     program.desktop.DoEvents();
-    program.screens.Show("GettingInvoices");
+    program.screens.Show(screen::kGettingInvoices);
     program.desktop.DoEvents();
 
     auto& sales = program.screens.Touch<CustInvoices>();
-    SetUpGrid(sales.InvoiceList);
-    MakeInvoiceAnew(program);
-    sales.InvoiceList.SetRows(1);
+    sales.ClearList();
+    RecreateInvoice(program);
     OpenInvoices(program);
     if (globals.InvoicesStale) {
       globals.oInvoice->DeleteInvoice(globals.CurInvoiceNum);
       globals.InvoicesStale = false;
     }
     globals.rsInvoices = globals.oInvoice->GetCustInvoices(globals.CurCustNum, sinceDate);
-    FillGrid(sales.InvoiceList, *globals.rsInvoices, program.convert);
+    sales.ListInvoices(*globals.rsInvoices);
     ShowBalanceDue(program);
     globals.oInvoice->CloseCn();
     SelectLatest(sales, globals);
-    program.screens.Unload("GettingInvoices");
+    program.screens.Unload(screen::kGettingInvoices);
   });
 }
 
@@ -95,26 +68,25 @@ void GetAllInvoices(Program& program) {
   Globals& globals = program.globals;
   Trap(program.desktop, "Globals.GetAllInvoices -", [&] {
     auto& sales = program.screens.Touch<CustInvoices>();
-    SetUpGrid(sales.InvoiceList);
-    MakeInvoiceAnew(program);
-    sales.InvoiceList.SetRows(1);
+    sales.ClearList();
+    RecreateInvoice(program);
     OpenInvoices(program);
     globals.rsInvoices = globals.oInvoice->GetAllInvoices(sales.SinceDate());
-    FillGrid(sales.InvoiceList, *globals.rsInvoices, program.convert);
+    sales.ListInvoices(*globals.rsInvoices);
     SelectLatest(sales, globals);
   });
 }
 
 void ShowBalanceDue(Program& program) {
-  Client& client = *program.globals.oClient;
+  const Object<Client> client = program.globals.oClient;
   Label& lblBalDue = program.screens.Touch<CustInvoices>().lblBalDue;
   const std::int32_t custNum = program.globals.CurCustNum;
   Date upToToday;
-  client.OpenCn();
-  lblBalDue.SetCaption(program.convert.CurrencyText(client.ClientBal(custNum, upToToday)));
-  const bool owing = client.ClientBal(custNum, upToToday) > Currency();
+  client->OpenCn();
+  lblBalDue.SetCaption(program.convert.CurrencyText(client->ClientBal(custNum, upToToday)));
+  const bool owing = client->ClientBal(custNum, upToToday) > Currency();
   lblBalDue.SetForeColor(owing ? Colour::Red : Colour::Black);
-  client.CloseCn();
+  client->CloseCn();
 }
 
 }  // namespace norvane

@@ -4,6 +4,12 @@
 
 namespace norvane {
 
+namespace {
+
+constexpr NumberedTable kClients{"tb_Client", "CustNum"};
+
+}  // namespace
+
 struct Client::TextColumn {
   const char* name;
   std::string Client::*property;
@@ -76,7 +82,8 @@ Object<Recordset> Client::GetClientRS(const std::string& clientName) {
 
 void Client::GetClient(std::int32_t custNum) {
   Trapped("Client.GetClient -", [&] {
-    const auto row = Read(sql::Statement("select * from tb_Client where CustNum = ", custNum));
+    const auto row =
+        ReadRecord(sql::Statement("select * from tb_Client where CustNum = ", custNum), [this] { Clear(); });
     if (row->Eof()) {
       GetNewCustNum();
       Blank();
@@ -90,6 +97,11 @@ void Client::Blank() {
   for (const TextColumn& column : kColumnsBeforeDiscount) (this->*column.property).clear();
   Discount = 0;
   for (const TextColumn& column : kColumnsAfterDiscount) (this->*column.property).clear();
+}
+
+void Client::Clear() {
+  CustNum = 0;
+  Blank();
 }
 
 void Client::ReadProperties(const Recordset& row) {
@@ -126,7 +138,8 @@ void Client::SaveClientAccess(std::int32_t custNum) {
         BillState, BillZipCode, BillHomePhone, BillWorkPhone, BillCelPhone, BillFax, BillEmail, BillWebPage, CardNum1,
         CardNum2, PaymentType1, PaymentType2, ExpDate1, ExpDate2, POnum, Discount, ShipLname, ShipFname, ShipMname,
         ShipAddress1, ShipAddress2, Shipcity, ShipState, ShipZipCode, ShipHomePhone, ShipCelPhone, ShipWorkPhone);
-    Replace(sql::Statement("Delete * from tb_Client where CustNum = ", custNum), insertion);
+    SaveUnder(kClients, custNum, CustNum,
+              [&] { Replace(sql::Statement("Delete * from tb_Client where CustNum = ", custNum), insertion); });
   });
 }
 
@@ -138,7 +151,7 @@ std::string Client::ClientName(std::int32_t custNum) {
 }
 
 void Client::GetNewCustNum() {
-  Trapped("Client.GetNewCustNum -", [&] { CustNum = NextKey("select max(CustNum) as HighNum from tb_Client"); });
+  CustNum = Result("Client.GetNewCustNum -", [&] { return NextKey(kClients); });
 }
 
 // The record has no notes on billing, and one of its two cards is all the procedure takes.

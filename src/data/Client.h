@@ -63,6 +63,7 @@ class Client : public DataObject {
 
   void GetNewCustNum();
   void Blank();
+  void Clear();
   void ReadProperties(const Recordset& row);
 };
 

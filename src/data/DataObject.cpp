@@ -1,6 +1,7 @@
 #include "data/DataObject.h"
 
 #include "core/Conversions.h"
+#include "data/Statement.h"
 
 namespace norvane {
 
@@ -65,10 +66,13 @@ void DataObject::Replace(std::string_view deletion, std::string_view insertion) 
   Run(insertion);
 }
 
-std::int32_t DataObject::NextKey(std::string_view statement, std::int32_t base) {
-  const auto rows = Read(statement);
-  const std::int32_t highest = rows->IsNull("highnum") ? base : rows->Long("highnum");
-  return RoundToLong(highest + 1.0);
+std::int32_t DataObject::NextKey(const NumberedTable& table) {
+  const auto rows = Read(sql::Statement("select max(", table.key, ") as HighNum from ", table.name));
+  std::int32_t key = rows->IsNull("highnum") ? table.base : rows->Long("highnum");
+  do {
+    key = RoundToLong(key + 1.0);
+  } while (workspace_.numbersInUse.contains({std::string(table.name), key}));
+  return key;
 }
 
 void DataObject::RunProcedure(std::string_view name, std::initializer_list<Parameter> parameters) {

@@ -21,6 +21,12 @@ namespace norvane {
 /// The database's name within the application's folder.
 inline constexpr const char* kDatabaseFile = "norvane.mdb";
 
+/// A table whose rows are numbered by a column, from the number after `base` on.
+struct NumberedTable {
+  std::string_view name, key;
+  std::int32_t base = 1000;
+};
+
 /// What all record classes share: a connection of their own, and the few ways of reading and writing through it.
 ///
 /// Callers bracket every use with OpenCn and CloseCn, so that the file is closed between operations. An operation
@@ -69,12 +75,49 @@ class DataObject {
   std::unique_ptr<Recordset> ReadToUpdate(std::string_view statement);
   /// Runs a statement that returns no rows.
   void Run(std::string_view statement);
+  /// Reads one record's row. If the statement fails, `clear` empties the record before the error goes on, so that no
+  /// save can mistake the record read before for this one.
+  template <class Clear>
+  std::unique_ptr<Recordset> ReadRecord(std::string_view statement, Clear&& clear) {
+    try {
+      return Read(statement);
+    } catch (const RuntimeError&) {
+      std::forward<Clear>(clear)();
+      throw;
+    }
+  }
   /// Saves a row whole: the old one goes, the new one comes. Nothing binds the two, so an insert that is refused leaves
   /// the row deleted.
   void Replace(std::string_view deletion, std::string_view insertion);
-  /// The key after the highest present, `statement` selecting that as HighNum; the one after `base` in an empty table.
-  /// A highest key that was deleted is given out again. Raises 6 past the last Long.
-  std::int32_t NextKey(std::string_view statement, std::int32_t base = 1000);
+  /// The key after the highest present; the first one in an empty table. A highest key that was deleted is given out
+  /// again, unless a refused save has removed its row. Raises 6 past the last Long.
+  std::int32_t NextKey(const NumberedTable& table);
+  /// Runs `replace`, which saves a row under a number that the caller has. If it is refused the number stays that
+  /// row's. Raises 5 if one of the numbers, that of the old row and that of the new one, is 0.
+  template <class Body>
+  void SaveUnder(const NumberedTable& table, std::int32_t oldKey, std::int32_t key, Body&& replace) {
+    if (oldKey == 0 || key == 0) Raise(ErrorNumber::InvalidProcedureCall);
+    try {
+      std::forward<Body>(replace)();
+    } catch (const RuntimeError&) {
+      workspace_.numbersInUse.emplace(table.name, key);
+      throw;
+    }
+  }
+  /// The same for a row that may be new: a `key` of 0 becomes the number that `next` returns. If that is 0, as after a
+  /// report, nothing is saved; if the new row is refused `key` is 0 again.
+  template <class Next, class Body>
+  void SaveNumbered(const NumberedTable& table, std::int32_t& key, Next&& next, Body&& replace) {
+    if (key != 0) return SaveUnder(table, key, key, std::forward<Body>(replace));
+    key = std::forward<Next>(next)();
+    if (key == 0) return;
+    try {
+      std::forward<Body>(replace)();
+    } catch (const RuntimeError&) {
+      key = 0;
+      throw;
+    }
+  }
   /// Runs a stored procedure of the server's.
   void RunProcedure(std::string_view name, std::initializer_list<Parameter> parameters);
 

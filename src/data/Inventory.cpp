@@ -6,6 +6,9 @@ namespace norvane {
 
 namespace {
 
+constexpr NumberedTable kItems{"tb_Inventory", "ItemNum"};
+constexpr NumberedTable kCategories{"tb_Invcategories", "catNum", 0};
+
 /// Raises 6 past a Long's range.
 std::int32_t Minus(std::int32_t a, std::int32_t b) {
   return RoundToLong(static_cast<double>(a) - b);
@@ -24,14 +27,11 @@ Object<Recordset> Inventory::rsCategories() {
 
 void Inventory::GetItem(std::int32_t itemNumber) {
   Trapped("Inventory.GetItem -", [&] {
-    const auto row = Read(sql::Statement("select * from tb_Inventory where ItemNum = ", itemNumber));
+    const auto row =
+        ReadRecord(sql::Statement("select * from tb_Inventory where ItemNum = ", itemNumber), [this] { Blank(); });
     if (row->Eof()) {
+      Blank();
       ItemNum = NewItemNum();
-      Category = 1;
-      description.clear();
-      charge = Currency();
-      Par = 0;
-      InStock = 0;
     } else {
       ItemNum = row->Long("ItemNum");
       Category = row->Long("CatNum");
@@ -43,14 +43,27 @@ void Inventory::GetItem(std::int32_t itemNumber) {
   });
 }
 
+void Inventory::Blank() {
+  ItemNum = 0;
+  Category = 1;
+  description.clear();
+  charge = Currency();
+  Par = 0;
+  InStock = 0;
+}
+
 void Inventory::SaveItemAccess(std::int32_t& itemNum) {
   Trapped("Inventory.SaveItemAccess -", [&] {
-    if (itemNum == 0) itemNum = NewItemNum();
-    ItemNum = itemNum;
-    Replace(sql::Statement("Delete * from tb_Inventory where ItemNum = ", ItemNum),
-            sql::Insert("Insert into tb_Inventory (ItemNum, CatNum, Description,charge,par,instock,warranty) values (",
-                        ItemNum, Category, description, charge, Par, InStock, Warranty));
+    SaveNumbered(
+        kItems, itemNum, [&] { return NewItemNum(); },
+        [&] {
+          Replace(sql::Statement("Delete * from tb_Inventory where ItemNum = ", itemNum),
+                  sql::Insert(
+                      "Insert into tb_Inventory (ItemNum, CatNum, Description,charge,par,instock,warranty) values (",
+                      itemNum, Category, description, charge, Par, InStock, Warranty));
+        });
   });
+  ItemNum = itemNum;
 }
 
 void Inventory::SaveItem() {
@@ -68,9 +81,13 @@ void Inventory::DeleteItem(std::int32_t itemNumber) {
 
 void Inventory::SaveCategory(std::int32_t catNum, const std::string& text) {
   Trapped("Inventory.SaveCategory -", [&] {
-    CatNum = catNum == 0 ? NewCategoryNum() : catNum;
-    Replace(sql::Statement("Delete * from tb_InvCategories where CatNum = ", CatNum),
-            sql::Insert("Insert into tb_InvCategories (CatNum, Description) values (", CatNum, text));
+    CatNum = catNum;
+    SaveNumbered(
+        kCategories, CatNum, [&] { return NewCategoryNum(); },
+        [&] {
+          Replace(sql::Statement("Delete * from tb_InvCategories where CatNum = ", CatNum),
+                  sql::Insert("Insert into tb_InvCategories (CatNum, Description) values (", CatNum, text));
+        });
   });
 }
 
@@ -97,12 +114,11 @@ std::int32_t Inventory::QtyInStock(std::int32_t itemNumber, std::int32_t current
 }
 
 std::int32_t Inventory::NewItemNum() {
-  return Result("Inventory.NewItemNum -", [&] { return NextKey("select max(ItemNum) as HighNum from tb_Inventory"); });
+  return Result("Inventory.NewItemNum -", [&] { return NextKey(kItems); });
 }
 
 std::int32_t Inventory::NewCategoryNum() {
-  return Result("Inventory.NewCategoryNum -",
-                [&] { return NextKey("select max(catNum) as HighNum from tb_Invcategories", 0); });
+  return Result("Inventory.NewCategoryNum -", [&] { return NextKey(kCategories); });
 }
 
 }  // namespace norvane

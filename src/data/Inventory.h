@@ -32,12 +32,14 @@ class Inventory : public DataObject {
   /// Loads the properties of an item, Warranty left as it is. An unknown number makes this a blank item with the next
   /// free number.
   void GetItem(std::int32_t itemNumber);
-  /// Saves the properties as the row of `itemNum`. 0 asks for the next free number, which is passed back.
+  /// Saves the properties as the row of `itemNum`. 0 asks for the next free number, which is passed back; it stays 0 if
+  /// there is none or the new row is refused.
   void SaveItemAccess(std::int32_t& itemNum);
   /// Saves through the server's procedure. Errors go to the caller.
   void SaveItem();
   void DeleteItem(std::int32_t itemNumber);
-  /// Saves a category; 0 asks for the next free number. The number used is left in CatNum.
+  /// Saves a category; 0 asks for the next free number. The number used is left in CatNum, 0 if there is none
+  /// or the new row is refused.
   void SaveCategory(std::int32_t catNum, const std::string& text);
   /// Deletes the category and all its items.
   void DeleteCategory(std::int32_t catNumber);
@@ -46,6 +48,7 @@ class Inventory : public DataObject {
   std::int32_t QtyInStock(std::int32_t itemNumber, std::int32_t currentQuantity, std::int32_t newQuantity);
 
  private:
+  void Blank();
   std::int32_t NewItemNum();
   std::int32_t NewCategoryNum();
 };

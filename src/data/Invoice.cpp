@@ -7,6 +7,8 @@ namespace norvane {
 
 namespace {
 
+constexpr NumberedTable kInvoices{"tb_Invoice", "InvoiceNum"};
+
 constexpr std::string_view kInvoiceList =
     "SELECT tb_Client.CustNum, tb_Client.Lname as Lname, tb_Client.Fname as Fname, tb_Invoice.Date as InvoiceDate, "
     "tb_Invoice.InvoiceNum as InvoiceNum, tb_Invoice.Discount as Discount, "
@@ -38,7 +40,8 @@ Object<Recordset> Invoice::GetCustInvoices(std::int32_t custNum, Date sinceDate)
 
 void Invoice::GetInvoice(std::int32_t invoiceNum) {
   Trapped("Invoice.GetInvoice -", [&] {
-    const auto row = Read(sql::Statement("select * from tb_Invoice where InvoiceNum = ", invoiceNum));
+    const auto row = ReadRecord(sql::Statement("select * from tb_Invoice where InvoiceNum = ", invoiceNum),
+                                [this] { ClearInvoice(); });
     if (row->Eof()) {
       GetnewInvoiceNum();
       BlankInvoice();
@@ -54,6 +57,12 @@ void Invoice::BlankInvoice() {
   for (std::string* text : {&description, &ShippingType, &TrackingNum, &SalesRep, &Terms}) text->clear();
   InvoiceDate = Shippingdate = workspace_.clock.Today();
   ShippingCharge = Tax = Interest = Currency();
+}
+
+void Invoice::ClearInvoice() {
+  InvoiceNum = 0;
+  Discount = 0;
+  BlankInvoice();
 }
 
 void Invoice::ReadInvoice(const Recordset& row) {
@@ -79,7 +88,8 @@ void Invoice::SaveInvoiceAccess(std::int32_t invoiceNum) {
         "shippingtype,trackingnum,interest,SalesRep,Terms) values (",
         sql::Bare{InvoiceNum.Text()}, sql::Bare{CustNum.Text()}, InvoiceDate, description, Discount, Tax,
         ShippingCharge, Shippingdate, ShippingType, TrackingNum, Interest, SalesRep, Terms);
-    Replace(sql::Statement("Delete * from tb_Invoice where InvoiceNum = ", invoiceNum), insertion);
+    SaveUnder(kInvoices, invoiceNum, ValLong(InvoiceNum.Text()),
+              [&] { Replace(sql::Statement("Delete * from tb_Invoice where InvoiceNum = ", invoiceNum), insertion); });
   });
 }
 
@@ -102,8 +112,7 @@ void Invoice::ReturnToStock(const Recordset& line) {
 }
 
 void Invoice::GetnewInvoiceNum() {
-  Trapped("Invoice.GetNewInvoiceNum -",
-          [&] { InvoiceNum = NextKey("select max(InvoiceNum) as HighNum from tb_Invoice"); });
+  InvoiceNum = Result("Invoice.GetNewInvoiceNum -", [&] { return NextKey(kInvoices); });
 }
 
 Currency Invoice::InvoiceTotal(std::int32_t invoiceNum) {

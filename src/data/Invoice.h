@@ -71,7 +71,8 @@ class Invoice : public DataObject {
 
   /// An invoice's lines in the table's order.
   Object<Recordset> GetInvoiceItems(std::int32_t invoiceNum);
-  /// Saves the line's properties, which empties its order date. TransNum 0 becomes the next free number.
+  /// Saves the line's properties, which empties its order date. TransNum 0 becomes the next free number; it stays 0 if
+  /// there is none or the new line is refused.
   void SaveTransAccess();
   /// Deletes a line. No stock is given back.
   void DeleteInvoiceItem(std::int32_t transNum);
@@ -87,7 +88,8 @@ class Invoice : public DataObject {
   /// The payments after `sinceDate` by date and number, of one client or, for -1, of all: CustNum, Fname, Lname,
   /// FullName, TransNum, Type, CheckNum, Date, Amount, Notes. Leaves `custNum` in the property CustNum.
   Object<Recordset> AllPayments(Date sinceDate, std::int32_t custNum);
-  /// Saves the payment's properties. PayNum 0 becomes the next free number.
+  /// Saves the payment's properties. PayNum 0 becomes the next free number; it stays 0 if there is none or the new
+  /// payment is refused.
   void SavePayment();
   void DeletePayment(std::int32_t transNum);
   /// The next free number of a payment.
@@ -102,6 +104,7 @@ class Invoice : public DataObject {
 
  private:
   void BlankInvoice();
+  void ClearInvoice();
   void ReadInvoice(const Recordset& row);
   void ReturnToStock(const Recordset& line);
 };

@@ -5,6 +5,8 @@ namespace norvane {
 
 namespace {
 
+constexpr NumberedTable kLines{"tb_Trans", "TransNum"};
+
 constexpr std::string_view kBackOrders =
     "SELECT tb_trans.TransNum as TransNum, tb_trans.InvoiceNum as InvoiceNum, tb_trans.ItemNum as ItemNum, "
     "tb_trans.Notes as Notes, tb_trans.BackOrder as BackOrderQty, tb_trans.Ordered as Ordered, "
@@ -21,10 +23,13 @@ Object<Recordset> Invoice::GetInvoiceItems(std::int32_t invoiceNum) {
 // Ordered isn't among the columns: a line that is edited has to be ordered again.
 void Invoice::SaveTransAccess() {
   Trapped("Invoice.SaveTransAccess -", [&] {
-    if (TransNum == 0) TransNum = NewTransNum();
-    Replace(sql::Statement("delete * from tb_trans where Transnum = ", TransNum),
-            sql::Insert("Insert into tb_trans (TransNum,InvoiceNum,ItemNum,Qty,Amount,Notes,Backorder) values (",
-                        TransNum, sql::Bare{InvoiceNum.Text()}, ItemNum, Qty, charge, TransNotes, BackOrder));
+    SaveNumbered(
+        kLines, TransNum, [&] { return NewTransNum(); },
+        [&] {
+          Replace(sql::Statement("delete * from tb_trans where Transnum = ", TransNum),
+                  sql::Insert("Insert into tb_trans (TransNum,InvoiceNum,ItemNum,Qty,Amount,Notes,Backorder) values (",
+                              TransNum, sql::Bare{InvoiceNum.Text()}, ItemNum, Qty, charge, TransNotes, BackOrder));
+        });
   });
 }
 
@@ -34,7 +39,7 @@ void Invoice::DeleteInvoiceItem(std::int32_t transNum) {
 }
 
 std::int32_t Invoice::NewTransNum() {
-  return Result("Invoice.NewTransNum -", [&] { return NextKey("select max(TransNum) as HighNum from tb_Trans"); });
+  return Result("Invoice.NewTransNum -", [&] { return NextKey(kLines); });
 }
 
 Object<Recordset> Invoice::GetBackOrderItems() {

@@ -5,6 +5,7 @@ namespace norvane {
 
 namespace {
 
+constexpr NumberedTable kPayments{"tb_Receive", "TransNum"};
 constexpr std::int32_t kAllClients = -1;
 
 constexpr std::string_view kPaymentsAfter =
@@ -26,10 +27,13 @@ Object<Recordset> Invoice::AllPayments(Date sinceDate, std::int32_t custNum) {
 
 void Invoice::SavePayment() {
   Trapped("Invoice.SavePayment -", [&] {
-    if (PayNum == 0) PayNum = NewPayNum();
-    Replace(sql::Statement("delete * from tb_Receive where Transnum = ", PayNum),
-            sql::Insert("Insert into tb_Receive (TransNum,CustNum,Type,CheckNum,[Date],[Amount],Notes) values (",
-                        PayNum, sql::Bare{CustNum.Text()}, Paytype, Checknum, PayDate, Payment, PayNotes));
+    SaveNumbered(
+        kPayments, PayNum, [&] { return NewPayNum(); },
+        [&] {
+          Replace(sql::Statement("delete * from tb_Receive where Transnum = ", PayNum),
+                  sql::Insert("Insert into tb_Receive (TransNum,CustNum,Type,CheckNum,[Date],[Amount],Notes) values (",
+                              PayNum, sql::Bare{CustNum.Text()}, Paytype, Checknum, PayDate, Payment, PayNotes));
+        });
   });
 }
 
@@ -39,7 +43,7 @@ void Invoice::DeletePayment(std::int32_t transNum) {
 }
 
 std::int32_t Invoice::NewPayNum() {
-  return Result("Invoice.NewPayNum -", [&] { return NextKey("select max(TransNum) as HighNum from tb_Receive"); });
+  return Result("Invoice.NewPayNum -", [&] { return NextKey(kPayments); });
 }
 
 }  // namespace norvane

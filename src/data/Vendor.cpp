@@ -4,13 +4,20 @@
 
 namespace norvane {
 
+namespace {
+
+constexpr NumberedTable kVendors{"tb_Vendor", "VendorNum"};
+
+}  // namespace
+
 Object<Recordset> Vendor::GetAllVendors() {
   return List("Vendor.GetAllVendors -", "select company, vendornum from tb_Vendor order by company");
 }
 
 void Vendor::GetVendor(const std::string& company) {
   Trapped("Vendor.GetVendor -", [&] {
-    const auto row = Read(sql::Statement("select * from tb_Vendor where Company = '", company, "'"));
+    const auto row =
+        ReadRecord(sql::Statement("select * from tb_Vendor where Company = '", company, "'"), [this] { Clear(); });
     if (row->Eof()) {
       GetNewVendorNum();
       Blank();
@@ -26,6 +33,11 @@ void Vendor::Blank() {
     text->clear();
   }
   Discount = 0;
+}
+
+void Vendor::Clear() {
+  VendorNum = 0;
+  Blank();
 }
 
 void Vendor::ReadVendor(const Recordset& row) {
@@ -69,12 +81,15 @@ std::string Vendor::CompanyOf(std::int32_t vendorNum) {
 
 void Vendor::SaveVendorAccess(std::int32_t vendorNum) {
   Trapped("Vendor.SaveVendorAccess -", [&] {
-    Replace(sql::Statement("Delete * from tb_Vendor where VendorNum = ", vendorNum),
-            sql::Insert("Insert into tb_Vendor (VendorNum,Company,Address1,Address2,City, State,ZipCode,Phone,CelPhone,"
-                        "Fax,Email,Webpage,Notes, POnum,Discount ) values (",
-                        VendorNum, Company, Address1, Address2, City, State, ZipCode, Phone, CelPhone, Fax, Email,
-                        WebPage, Notes, POnum, Discount) +
-                ";");
+    SaveUnder(kVendors, vendorNum, VendorNum, [&] {
+      Replace(
+          sql::Statement("Delete * from tb_Vendor where VendorNum = ", vendorNum),
+          sql::Insert("Insert into tb_Vendor (VendorNum,Company,Address1,Address2,City, State,ZipCode,Phone,CelPhone,"
+                      "Fax,Email,Webpage,Notes, POnum,Discount ) values (",
+                      VendorNum, Company, Address1, Address2, City, State, ZipCode, Phone, CelPhone, Fax, Email,
+                      WebPage, Notes, POnum, Discount) +
+              ";");
+    });
   });
 }
 
@@ -92,7 +107,7 @@ std::string Vendor::VendorCompany(std::int32_t vendorNum) {
 }
 
 void Vendor::GetNewVendorNum() {
-  Trapped("Vendor.GetNewVendorNum -", [&] { VendorNum = NextKey("select max(VendorNum) as HighNum from tb_Vendor"); });
+  VendorNum = Result("Vendor.GetNewVendorNum -", [&] { return NextKey(kVendors); });
 }
 
 }  // namespace norvane

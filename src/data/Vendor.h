@@ -62,7 +62,8 @@ class Vendor : public DataObject {
   /// A selection by `field`: VENDOR (whose value ALL means any), CATEGORY, NOTES and CLEARED give payments since a date
   /// by date and check number, DEPOSIT all deposits of any date by date. Any other field is reported.
   Object<Recordset> LedgerEntries(const std::string& field, const std::string& value, Date since);
-  /// Saves the entry's properties. TransNum 0 becomes the next free number.
+  /// Saves the entry's properties. TransNum 0 becomes the next free number; it stays 0 if there is none or the new
+  /// entry is refused.
   void SaveLedgerEntry();
   void DeleteLedgerEntry(std::int32_t transNum);
   /// The next free number of an entry.
@@ -75,6 +76,7 @@ class Vendor : public DataObject {
  private:
   std::string CompanyOf(std::int32_t vendorNum);
   void Blank();
+  void Clear();
   void ReadVendor(const Recordset& row);
   std::string LedgerSelection(const std::string& field, const std::string& value, Date since) const;
   Currency Balance(std::string_view payments, std::string_view deposits);

@@ -4,6 +4,12 @@
 
 namespace norvane {
 
+namespace {
+
+constexpr NumberedTable kEntries{"tb_GL", "TransNum"};
+
+}  // namespace
+
 Object<Recordset> Vendor::LedgerEntriesAll() {
   return List("Vendor.LedgerEntriesAll -", "SELECT * from tb_GL order by [date], checknum");
 }
@@ -35,11 +41,15 @@ std::string Vendor::LedgerSelection(const std::string& field, const std::string&
 
 void Vendor::SaveLedgerEntry() {
   Trapped("Vendor.SaveLedgerEntry -", [&] {
-    if (TransNum == 0) TransNum = NewPayNum();
-    Replace(sql::Statement("delete * from tb_gl where Transnum = ", TransNum),
-            sql::Insert("Insert into tb_GL (TransNum,[Date],CheckNum,Vendor,Payment,Cleared,Category,Deposit,Notes) "
-                        "values (",
-                        TransNum, TransDate, Checknum, LedgerVendor, Payment, Cleared, Category, Deposit, LedgerNotes));
+    SaveNumbered(
+        kEntries, TransNum, [&] { return NewPayNum(); },
+        [&] {
+          Replace(
+              sql::Statement("delete * from tb_gl where Transnum = ", TransNum),
+              sql::Insert(
+                  "Insert into tb_GL (TransNum,[Date],CheckNum,Vendor,Payment,Cleared,Category,Deposit,Notes) values (",
+                  TransNum, TransDate, Checknum, LedgerVendor, Payment, Cleared, Category, Deposit, LedgerNotes));
+        });
   });
 }
 
@@ -49,7 +59,7 @@ void Vendor::DeleteLedgerEntry(std::int32_t transNum) {
 }
 
 std::int32_t Vendor::NewPayNum() {
-  return Result("Vendor.NewPayNum -", [&] { return NextKey("select max(TransNum) as HighNum from tb_GL"); });
+  return Result("Vendor.NewPayNum -", [&] { return NextKey(kEntries); });
 }
 
 Currency Vendor::LedgerEndBal() {

@@ -1,4 +1,5 @@
 #include <functional>
+#include <utility>
 
 #include "data/Client.h"
 #include "data/DataTest.h"
@@ -93,6 +94,93 @@ TEST_F(FailureTest, ARefusedSaveLosesTheRow) {
   }
 }
 
+TEST_F(FailureTest, ARefusedNewRowHasNoNumberAndARefusedOldOneKeepsItsOwn) {
+  const auto invoice = Opened<Invoice>();
+  const auto inventory = Opened<Inventory>();
+  const auto vendor = Opened<Vendor>();
+  invoice->InvoiceNum = invoice->CustNum = 7;
+  struct Case {
+    std::string table, key;
+    std::int32_t first;
+    std::string allocation, label;
+    std::function<std::int32_t(std::int32_t, const std::string&)> save;  ///< returns the number it leaves
+  };
+  const Case cases[] = {
+      {"tb_trans", "TransNum", 1001, "Invoice.NewTransNum -", "Invoice.SaveTransAccess -",
+       [&](std::int32_t key, const std::string& text) {
+         return invoice->TransNum = key, invoice->TransNotes = text, invoice->SaveTransAccess(), invoice->TransNum;
+       }},
+      {"tb_Receive", "TransNum", 1001, "Invoice.NewPayNum -", "Invoice.SavePayment -",
+       [&](std::int32_t key, const std::string& text) {
+         return invoice->PayNum = key, invoice->PayNotes = text, invoice->SavePayment(), invoice->PayNum;
+       }},
+      {"tb_Inventory", "ItemNum", 1001, "Inventory.NewItemNum -", "Inventory.SaveItemAccess -",
+       [&](std::int32_t key, const std::string& text) {
+         return inventory->description = text, inventory->SaveItemAccess(key), key;
+       }},
+      {"tb_InvCategories", "CatNum", 1, "Inventory.NewCategoryNum -", "Inventory.SaveCategory -",
+       [&](std::int32_t key, const std::string& text) {
+         return inventory->SaveCategory(key, text), inventory->CatNum;
+       }},
+      {"tb_GL", "TransNum", 1001, "Vendor.NewPayNum -", "Vendor.SaveLedgerEntry -",
+       [&](std::int32_t key, const std::string& text) {
+         return vendor->TransNum = key, vendor->LedgerNotes = text, vendor->SaveLedgerEntry(), vendor->TransNum;
+       }},
+  };
+  database.Clear();
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.label);
+    EXPECT_EQ(c.save(0, "6' pole"), 0);
+    ExpectReport(c.label, kSyntaxError);
+    EXPECT_EQ(c.save(0, "pole"), c.first);
+    EXPECT_EQ(c.save(c.first, "6' pole"), c.first);
+    ExpectReport(c.label, kSyntaxError);
+    EXPECT_EQ(c.save(0, "other"), c.first + 1) << "the first number is still on the screen";
+    database.Execute("update " + c.table + " set " + c.key + " = 2147483647");
+    EXPECT_EQ(c.save(0, "no number left"), 0);
+    ExpectReport(c.allocation, 6);
+    EXPECT_THAT(database.Rows("select " + c.key + " from " + c.table), ElementsAre("2147483647"));
+  }
+}
+
+TEST_F(FailureTest, ARecordThatCouldNotBeReadHasNoNumberAndIsNotStored) {
+  database.Execute(
+      "insert into tb_Client (CustNum, Lname, Discount) values (1001, 'Abbot', 5);"
+      "insert into tb_Vendor (VendorNum, Company, Discount) values (1001, 'Acme', 5);"
+      "insert into tb_Invoice values (1001, 1001, 1, 'Chairs', 5, 0, 0, 1, '', '', 0, '', '');"
+      "insert into tb_Inventory values (1001, 3, 'Pen', 1, 1, 1, '')");
+  const auto client = Opened<Client>();
+  const auto invoice = Opened<Invoice>();
+  const auto inventory = Opened<Inventory>();
+  const auto vendor = Opened<Vendor>();
+  client->GetClient(1001);
+  invoice->GetInvoice(1001);
+  inventory->GetItem(1001);
+  vendor->GetVendor("Acme");
+  {
+    const OtherUser other(database, OtherUser::Work::Locking);
+    client->GetClient(1001);
+    invoice->GetInvoice(1001);
+    inventory->GetItem(1001);
+    vendor->GetVendor("Acme");
+    EXPECT_EQ(std::exchange(reporter.reports, {}).size(), 4U);
+  }
+  EXPECT_EQ(client->CustNum + invoice->InvoiceNum + inventory->ItemNum + vendor->VendorNum, 0);
+  EXPECT_EQ(client->Discount + invoice->Discount + vendor->Discount + inventory->Par, 0);
+  EXPECT_EQ(client->lname + invoice->CustNum.Text() + invoice->description + inventory->description + vendor->Company,
+            "");
+  client->SaveClientAccess(1001);
+  ExpectReport("Client.SaveClientAccess -", 5);
+  invoice->CustNum = 1001;
+  invoice->SaveInvoiceAccess(1001);
+  ExpectReport("Invoice.SaveInvoiceAccess -", 5);
+  vendor->SaveVendorAccess(1001);
+  ExpectReport("Vendor.SaveVendorAccess -", 5);
+  EXPECT_THAT(database.Rows("select Lname from tb_Client union all select Description from tb_Invoice union all "
+                            "select Company from tb_Vendor"),
+              ElementsAre("Abbot", "Chairs", "Acme"));
+}
+
 TEST_F(FailureTest, AFileThatAnotherWritesCanBeReadButNotChanged) {
   database.Execute(
       "insert into tb_Client (CustNum, Lname) values (1001, 'Old'); insert into tb_trans (TransNum) values (7);"
@@ -103,12 +191,13 @@ TEST_F(FailureTest, AFileThatAnotherWritesCanBeReadButNotChanged) {
   {
     const OtherUser other(database, OtherUser::Work::Writing);
     EXPECT_EQ(client->GetAllClients()->RecordCount(), 1);
+    client->CustNum = 1001;
     client->SaveClientAccess(1001);
     ExpectReport("Client.SaveClientAccess -", kFileOrKey);
     invoice->InvoiceNum = 1;
     invoice->SaveTransAccess();
     ExpectReport("Invoice.SaveTransAccess -", kFileOrKey);
-    EXPECT_EQ(invoice->TransNum, 8) << "the number was taken before";
+    EXPECT_EQ(invoice->TransNum, 0);
     setup->SaveCompanyInfo();
   }
   EXPECT_THAT(database.Rows("select Lname from tb_Client union all select TransNum from tb_trans union all "

@@ -70,7 +70,7 @@ TEST_F(InvoiceTest, AnInvoiceIsReadSavedAndBlankedButForTheDiscount) {
   ExpectReport("Invoice.SaveInvoiceAccess -", kSyntaxError);
   EXPECT_THAT(database.Rows("select * from tb_Invoice"), IsEmpty()) << "without a client's number the save is refused";
   invoice->CustNum = -1;
-  invoice->SaveInvoiceAccess(0);
+  invoice->SaveInvoiceAccess(1003);
   const std::string today = Serial(2026, 11, 22);
   EXPECT_THAT(database.Rows("select * from tb_Invoice"),
               ElementsAre("1003|-1|" + today + "||0.1|0|0|" + today + "|||0||"));

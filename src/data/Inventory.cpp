@@ -103,9 +103,10 @@ std::int32_t Inventory::QtyInStock(std::int32_t itemNumber, std::int32_t current
   Trapped("Inventory.QtyInStock -", [&] {
     const auto item = ReadToUpdate(sql::Statement("select * from tb_inventory where ItemNum = ", itemNumber));
     if (item->Long("Par") > 0) {
-      result = Minus(item->Long("InStock"), Minus(newQuantity, currentQuantity));
-      item->SetField("InStock", result);
+      const std::int32_t left = Minus(item->Long("InStock"), Minus(newQuantity, currentQuantity));
+      item->SetField("InStock", left);
       item->Update();
+      result = left;
     } else {
       result = kNotCounted;
     }

@@ -31,6 +31,10 @@ TEST_F(InventoryTest, StockMovesByTheChangeOfALineIfItIsCounted) {
   }
   EXPECT_EQ(inventory->QtyInStock(2, 0, 3), 0);
   ExpectReport("Inventory.QtyInStock -", 3021);
+  database.Execute("update tb_Inventory set InStock = 9");
+  const OtherUser other(database, OtherUser::Work::Writing);
+  EXPECT_EQ(inventory->QtyInStock(1, 0, 3), 0);
+  ExpectReport("Inventory.QtyInStock -", kFileOrKey);
 }
 
 TEST_F(InventoryTest, AnItemIsReadAndSavedUnderTheNumberPassedBack) {

@@ -1,25 +1,68 @@
 #include "store/Engine.h"
 
-#include <sys/stat.h>
-
 #include "store/internal/EngineState.h"
+#include "store/internal/StoreError.h"
 
 namespace norvane {
 
-std::optional<FileIdentity> FileIdentity::Of(const std::filesystem::path& file) {
-  struct stat status {};
-  if (stat(file.c_str(), &status) != 0) return std::nullopt;
-  return FileIdentity{status.st_dev, status.st_ino};
-}
+namespace {
+
+class FileHeldAlone final : public SoleUse {
+ public:
+  explicit FileHeldAlone(KnownFile& file) : file_(file) { file_.heldAlone = true; }
+  ~FileHeldAlone() override { file_.heldAlone = false; }
+  FileHeldAlone(const FileHeldAlone&) = delete;
+  FileHeldAlone& operator=(const FileHeldAlone&) = delete;
+
+  bool Take(const std::filesystem::path& file, std::chrono::milliseconds patience) {
+    return lock_.Take(file, store::FileLock::Kind::Sole, patience);
+  }
+
+ private:
+  KnownFile& file_;
+  store::FileLock lock_;
+};
+
+}  // namespace
 
 Engine::Engine() : state_(std::make_unique<State>()) {}
 Engine::~Engine() = default;
 
 int Engine::OpenConnections(const std::filesystem::path& file) const {
-  const auto identity = FileIdentity::Of(file);
+  const auto identity = store::FileIdentity::Of(file);
   if (!identity) return 0;
-  const auto found = state_->openConnections.find(*identity);
-  return found == state_->openConnections.end() ? 0 : found->second;
+  const auto found = state_->files.find(*identity);
+  return found == state_->files.end() ? 0 : found->second.connections;
 }
+
+std::unique_ptr<SoleUse> Engine::HoldAlone(const std::filesystem::path& file) {
+  const auto identity = store::FileIdentity::Of(file);
+  if (!identity) return std::make_unique<SoleUse>();
+  KnownFile& use = state_->files[*identity];
+  if (use.connections > 0 || use.heldAlone) return nullptr;
+  auto held = std::make_unique<FileHeldAlone>(use);
+  return held->Take(file, state_->patience) ? std::move(held) : nullptr;
+}
+
+void Engine::WaitForOthers(std::chrono::milliseconds patience) {
+  state_->patience = patience;
+}
+
+namespace store {
+
+Participation::Participation(Engine::State& engine, const std::filesystem::path& file, const std::string& name)
+    : file_(engine.files[FileIdentity::Of(file).value_or(FileIdentity{})]) {
+  if (file_.heldAlone) throw store_error::FileInUse(name);
+  if (file_.connections == 0 && !file_.lock.Take(file, FileLock::Kind::Shared, engine.patience)) {
+    throw store_error::FileInUse(name);
+  }
+  ++file_.connections;
+}
+
+Participation::~Participation() {
+  if (--file_.connections == 0) file_.lock.Release();
+}
+
+}  // namespace store
 
 }  // namespace norvane

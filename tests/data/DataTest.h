@@ -37,6 +37,7 @@ class DataTest : public ::testing::Test {
   static constexpr int kFileOrKey = -2147467259;
   static constexpr int kNoConnection = 3709;
 
+  DataTest() { engine.WaitForOthers(std::chrono::milliseconds(20)); }
   void TearDown() override { EXPECT_THAT(reporter.reports, ::testing::IsEmpty()); }
 
   /// A data object with its connection open.

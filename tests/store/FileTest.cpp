@@ -12,6 +12,8 @@ namespace fs = std::filesystem;
 
 class FileTest : public testing::Test {
  protected:
+  FileTest() { engine.WaitForOthers(std::chrono::milliseconds(20)); }
+
   std::string OpeningError(const fs::path& file) {
     return ErrorOf([&] { ConnectionTo(engine, file.string())->Open(); });
   }
@@ -69,6 +71,42 @@ TEST_F(FileTest, ReportsAFileThatAnotherHolds) {
     EXPECT_EQ(ErrorOf([&] { Run(*connection, "delete * from tb_GL"); }), inUse);
   }
   EXPECT_EQ(ErrorOf([&] { Run(*connection, "delete * from tb_GL"); }), "");
+}
+
+TEST_F(FileTest, HoldsAFileAloneOnlyWhileNoProgramHasAConnection) {
+  const std::string inUse = "-2147467259 Could not use '" + database.File().string() + "'; file already in use.";
+  Engine otherProgram;
+  for (Engine* each : {&engine, &otherProgram}) {
+    const auto connection = ConnectionTo(*each, database.File().string());
+    connection->Open();
+    EXPECT_FALSE(engine.HoldAlone(database.File()));
+    connection->Close();
+    const auto held = otherProgram.HoldAlone(database.File());
+    EXPECT_TRUE(held);
+    EXPECT_FALSE(engine.HoldAlone(database.File()));
+    EXPECT_EQ(OpeningError(database.File()), inUse);
+    EXPECT_EQ(ErrorOf([&] { ConnectionTo(otherProgram, database.File().string())->Open(); }), inUse);
+  }
+  EXPECT_EQ(OpeningError(database.File()), "");
+  EXPECT_TRUE(engine.HoldAlone(database.Folder() / "none.mdb"));
+}
+
+/// An inode is given out again at once, so a new file may have that of the one it replaces.
+TEST_F(FileTest, KnowsNothingOfTheFileThatAnotherReplaced) {
+  auto connection = ConnectionTo(engine, database.File().string());
+  connection->Open();
+  Run(*connection, "select * from tb_GL");
+  connection->Close();
+  const std::string version = database.Cell("pragma schema_version");
+  fs::remove(database.File());
+  sqlite3* made = nullptr;
+  ASSERT_EQ(sqlite3_open(database.File().c_str(), &made), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(made, ("create table Own (Number); pragma schema_version = " + version).c_str(), nullptr,
+                         nullptr, nullptr),
+            SQLITE_OK);
+  sqlite3_close(made);
+  connection->Open();
+  EXPECT_EQ(ErrorOf([&] { Run(*connection, "select * from Own"); }), "");
 }
 
 TEST_F(FileTest, ReadsAReadOnlyFileAndRefusesToChangeIt) {

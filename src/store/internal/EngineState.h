@@ -1,29 +1,18 @@
 #pragma once
 
-#include <compare>
+#include <chrono>
 #include <filesystem>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
-#include <sys/types.h>
 #include <unordered_map>
 
 #include "store/Engine.h"
 #include "store/internal/Catalog.h"
+#include "store/internal/FileLock.h"
 #include "store/internal/Translator.h"
 
 namespace norvane {
-
-/// A file by what it is, whatever name or link it is reached by.
-struct FileIdentity {
-  dev_t device = 0;
-  ino_t inode = 0;
-  auto operator<=>(const FileIdentity&) const = default;
-
-  /// Nothing if there is no such file.
-  static std::optional<FileIdentity> Of(const std::filesystem::path& file);
-};
 
 /// What one state of a file's schema says, and the statements translated against it.
 struct FileKnowledge {
@@ -32,9 +21,36 @@ struct FileKnowledge {
   std::unordered_map<std::string, std::shared_ptr<const Translation>> translations;  ///< by the statement's shape
 };
 
-struct Engine::State {
-  std::map<FileIdentity, std::shared_ptr<FileKnowledge>> knowledge;
-  std::map<FileIdentity, int> openConnections;
+/// One file as this program uses it.
+struct KnownFile {
+  std::shared_ptr<FileKnowledge> knowledge;  ///< nothing until a connection has been open
+  int connections = 0;
+  store::FileLock lock;  ///< shared by all connections
+  bool heldAlone = false;
 };
+
+struct Engine::State {
+  std::map<store::FileIdentity, KnownFile> files;
+  std::chrono::milliseconds patience{2000};
+};
+
+namespace store {
+
+/// A connection's part in the use of a file: counted, and seen by other instances of the program.
+class Participation {
+ public:
+  /// Raises -2147467259 if the file is held alone. `name` is what the error's text shows.
+  Participation(Engine::State& engine, const std::filesystem::path& file, const std::string& name);
+  ~Participation();
+  Participation(const Participation&) = delete;
+  Participation& operator=(const Participation&) = delete;
+
+  KnownFile& File() const { return file_; }
+
+ private:
+  KnownFile& file_;
+};
+
+}  // namespace store
 
 }  // namespace norvane

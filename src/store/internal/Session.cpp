@@ -12,8 +12,6 @@
 namespace norvane {
 namespace {
 
-/// A file held by somebody else is reported rather than waited for: the window stands still meanwhile.
-constexpr int kBusyMilliseconds = 200;
 constexpr std::size_t kMostPrepared = 64;
 constexpr std::size_t kMostTranslations = 1000;
 
@@ -32,16 +30,22 @@ bool MayBeWritten(mode_t mode) {
   return (mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
 }
 
-DatabaseHandle OpenDatabase(const std::filesystem::path& file, const std::string& name) {
+/// The file's mode. Raises the reason if it can't be a database.
+mode_t Checked(const std::filesystem::path& file, const std::string& name) {
   struct stat status {};
   if (stat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) throw store_error::FileNotFound(name);
   if (status.st_size == 0) throw store_error::UnrecognizedFormat(name);
-  const int flags = (MayBeWritten(status.st_mode) ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_NOMUTEX;
+  return status.st_mode;
+}
+
+DatabaseHandle OpenDatabase(const std::filesystem::path& file, mode_t mode, const std::string& name,
+                            std::chrono::milliseconds patience) {
+  const int flags = (MayBeWritten(mode) ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_NOMUTEX;
   sqlite3* opened = nullptr;
   const int code = sqlite3_open_v2(file.c_str(), &opened, flags, nullptr);
   DatabaseHandle database(opened);
   if (code != SQLITE_OK) throw store_error::FileInUse(name);
-  sqlite3_busy_timeout(opened, kBusyMilliseconds);
+  sqlite3_busy_timeout(opened, static_cast<int>(patience.count()));
   return database;
 }
 
@@ -65,21 +69,19 @@ class Reset {
 Connection::Session::Session(Engine::State& engine, const std::filesystem::path& file)
     : engine_(engine), name_(file.string()) {
   const std::filesystem::path located = std::filesystem::absolute(Located(file));
-  database_ = OpenDatabase(located, name_);
+  const mode_t mode = Checked(located, name_);
+  participation_.emplace(engine_, located, name_);
+  database_ = OpenDatabase(located, mode, name_, engine_.patience);
   const std::int32_t version = SchemaVersion();
-  identity_ = FileIdentity::Of(located).value_or(FileIdentity{});
-  std::shared_ptr<FileKnowledge>& known = engine_.knowledge[identity_];
+  std::shared_ptr<FileKnowledge>& known = participation_->File().knowledge;
   if (!known || known->schemaVersion != version) {
     known = std::make_shared<FileKnowledge>(FileKnowledge{version, Catalog::Read(database_.get(), name_), {}});
   }
   knowledge_ = known;
   AddSqlFunctions(database_.get());
-  ++engine_.openConnections[identity_];
 }
 
-Connection::Session::~Session() {
-  --engine_.openConnections[identity_];
-}
+Connection::Session::~Session() = default;
 
 /// The first thing read from the file, so it tells whether the file is one of ours and not held by anybody.
 std::int32_t Connection::Session::SchemaVersion() {

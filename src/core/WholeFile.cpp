@@ -55,13 +55,12 @@ bool WriteNewFile(const fs::path& file, std::string_view content, const struct s
   return WriteAll(handle.Get(), content) && ::fsync(handle.Get()) == 0 && handle.Close();
 }
 
-/// Makes the renaming last. Where a folder cannot be synchronised the new file stands all the same.
+}  // namespace
+
 void SynchronizeFolder(const fs::path& folder) {
   const FileHandle handle(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (handle) ::fsync(handle.Get());
 }
-
-}  // namespace
 
 std::optional<std::string> ReadWholeFile(const fs::path& file) {
   // Not blocking, so that a pipe of that name is refused instead of waited for.

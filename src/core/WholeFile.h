@@ -15,4 +15,8 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& file);
 /// is not possible or the file is read-only.
 bool ReplaceWholeFile(const std::filesystem::path& file, std::string_view content);
 
+/// Makes the names in a folder last: what was made, renamed or deleted there survives a power cut. Does what the folder
+/// allows; on a file system that can't do it the names are as safe as that system makes them.
+void SynchronizeFolder(const std::filesystem::path& folder);
+
 }  // namespace norvane

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "core/Characters.h"
+#include "core/WholeFile.h"
 #include "store/internal/Binder.h"
 #include "store/internal/Parser.h"
 #include "store/internal/SqlFunctions.h"
@@ -70,6 +71,7 @@ Connection::Session::Session(Engine::State& engine, const std::filesystem::path&
     : engine_(engine), name_(file.string()) {
   const std::filesystem::path located = std::filesystem::absolute(Located(file));
   const mode_t mode = Checked(located, name_);
+  folder_ = located.parent_path();
   participation_.emplace(engine_, located, name_);
   database_ = OpenDatabase(located, mode, name_, engine_.patience);
   const std::int32_t version = SchemaVersion();
@@ -81,7 +83,14 @@ Connection::Session::Session(Engine::State& engine, const std::filesystem::path&
   AddSqlFunctions(database_.get());
 }
 
-Connection::Session::~Session() = default;
+// The folder is synchronised after the last journal is gone: one that comes back with a power cut would undo what was
+// saved. That this may fail where a folder can't be synchronised is no error of the save.
+Connection::Session::~Session() {
+  const bool wrote = sqlite3_total_changes(database_.get()) > 0;
+  prepared_.clear();
+  database_.reset();
+  if (wrote) SynchronizeFolder(folder_);
+}
 
 /// The first thing read from the file, so it tells whether the file is one of ours and not held by anybody.
 std::int32_t Connection::Session::SchemaVersion() {

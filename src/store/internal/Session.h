@@ -48,6 +48,7 @@ struct Connection::Session {
 
   Engine::State& engine_;
   std::string name_;  ///< as the texts of errors show it
+  std::filesystem::path folder_;
   std::optional<store::Participation> participation_;  ///< ends after the database is closed
   DatabaseHandle database_;
   std::shared_ptr<FileKnowledge> knowledge_;

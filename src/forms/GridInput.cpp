@@ -40,7 +40,12 @@ void Grid::PressCellButton(int row, int col) {
   if (!Parent().IsLoaded() || row >= Rows()) return;
   CommitEdit();
   MoveTo(row, col);
-  if (IsAt(row, col)) CellButtonClick.Raise(row, col);
+  if (!IsAt(row, col)) return;
+  if (CellButtonClick.HasHandler()) {
+    CellButtonClick.Raise(row, col);
+  } else {
+    BeginEdit();
+  }
 }
 
 // The keyboard.

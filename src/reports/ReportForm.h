@@ -17,6 +17,9 @@ struct ReportMargins {
   const char* bottom = "0.5in";
 };
 
+/// The size of the body font, as text.
+inline constexpr const char* kBodySize = "11.25";
+
 struct ListStyle {
   const char* fontSize = "10";  ///< points
   ReportMargins margins = {};

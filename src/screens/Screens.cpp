@@ -15,6 +15,7 @@
 #include "screens/setup/frmSetup.h"
 #include "screens/start/About.h"
 #include "screens/start/intro.h"
+#include "screens/stock/BackOrderSet.h"
 #include "screens/stock/InvSearch.h"
 #include "screens/stock/InventoryCats.h"
 #include "screens/stock/frmInventory.h"
@@ -24,6 +25,7 @@ namespace norvane {
 void RegisterScreens(Program& program) {
   ScreenTable& screens = program.screens;
   screens.Add<About>();
+  screens.Add<BackOrderSet>();
   screens.Add<CustInvoices>();
   screens.Add<CustSearch>();
   screens.Add<Customer>();

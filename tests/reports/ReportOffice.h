@@ -12,6 +12,7 @@
 #include "forms/Preview.h"
 #include "forms/Program.h"
 #include "reports/RegisterReports.h"
+#include "screens/Notices.h"
 #include "support/Database.h"
 #include "support/PagesText.h"
 #include "support/PinnedFontMetrics.h"
@@ -30,6 +31,7 @@ class ReportOffice : public ::testing::Test {
  protected:
   ReportOffice() {
     RegisterReports(program);
+    RegisterNotices(program.screens);
     globals.oClient = Made<Client>();
     globals.oInvoice = Made<Invoice>();
     globals.oSetup = Made<cSetup>();

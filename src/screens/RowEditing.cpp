@@ -7,9 +7,19 @@
 
 namespace norvane {
 
+namespace {
+
+/// Holds a report back until it is known whether it is news.
+struct HeldReport : Reporter {
+  void Report(const std::string& report) override { text = report; }
+  std::string text;
+};
+
+}  // namespace
+
 RowEditing::RowEditing(Grid& grid, Globals& globals, Reporter& reporter, RowEditingRules rules,
-                       std::function<void()> saveRow)
-    : grid_(grid), globals_(globals), reporter_(reporter), rules_(std::move(rules)), saveRow_(std::move(saveRow)) {
+                       std::function<void(std::int32_t)> storeRow)
+    : grid_(grid), globals_(globals), reporter_(reporter), rules_(std::move(rules)), storeRow_(std::move(storeRow)) {
   grid_.LeaveCell = [this] { LeaveCell(); };
   grid_.RowColChange = [this] { RowColChange(); };
   grid_.LostFocus = [this] { LostFocus(); };
@@ -17,33 +27,90 @@ RowEditing::RowEditing(Grid& grid, Globals& globals, Reporter& reporter, RowEdit
 
 // The markers.
 
-/// The marker of a row that holds nothing stored, none for one that does.
-std::string_view RowEditing::UnstoredMarker(std::int32_t row) const {
+std::string_view RowEditing::MarkerOf(std::int32_t row) const {
   const std::string key = grid_.Cell(row, 1);
   if (key.empty()) return "*";
-  return rules_.zeroMeansStarted && key == "0" ? "?" : "";
+  if (Waits(row) || (rules_.zeroMeansStarted && key == "0")) return "?";
+  return row == NewRow ? ">" : "";
+}
+
+void RowEditing::ShowStatus(std::string_view label, std::int32_t row) {
+  Trap(reporter_, label, [&] {
+    if (Existing(row) > 0) SetMarker(row, MarkerOf(row));
+  });
 }
 
 void RowEditing::SetOldRowStatus() {
-  Trap(reporter_, rules_.labels.setOldRowStatus, [&] {
-    const std::int32_t row = RowLeft();
-    if (row <= 0) return;
-    std::string_view marker = UnstoredMarker(row);
-    if (marker.empty() && (row == RowEntered() || row == failedRow_)) marker = globals_.RowChanged ? "?" : ">";
-    SetMarker(row, marker);
-  });
+  ShowStatus(rules_.labels.setOldRowStatus, OldRow);
 }
 
 void RowEditing::SetNewRowStatus() {
-  Trap(reporter_, rules_.labels.setNewRowStatus, [&] {
-    const std::int32_t row = RowEntered();
-    if (row <= 0) return;
-    const std::string_view marker = UnstoredMarker(row);
-    SetMarker(row, marker.empty() ? ">" : marker);
+  ShowStatus(rules_.labels.setNewRowStatus, NewRow);
+}
+
+// The rows that wait.
+
+bool RowEditing::Waits(std::int32_t row) const {
+  const auto found = edits_.find(row);
+  return found != edits_.end() && found->second.waits;
+}
+
+std::vector<std::int32_t> RowEditing::WaitingRows() const {
+  std::vector<std::int32_t> rows;
+  for (const auto& [row, edit] : edits_) {
+    if (edit.waits && Existing(row) > 0) rows.push_back(row);
+  }
+  return rows;
+}
+
+void RowEditing::MarkChanged(std::int32_t row) {
+  edits_[row].waits = true;
+  globals_.RowChanged = true;
+}
+
+void RowEditing::MarkStored(std::int32_t row) {
+  edits_.erase(row);
+  ShowPending();
+  ShowStatus(rules_.labels.setOldRowStatus, row);
+}
+
+void RowEditing::ShowPending() {
+  globals_.RowChanged = !WaitingRows().empty();
+}
+
+void RowEditing::AfterEdit(std::int32_t row, const std::function<bool()>& edit) {
+  ReadRow(rules_.labels.afterEdit, row, [&] {
+    TakeCurrentRow();
+    if (edit()) MarkChanged(row);
+    if (rules_.storesAtOnce && Waits(row)) SaveRow(row);
+    SetOldRowStatus();
   });
 }
 
+std::string RowEditing::TextsOf(std::int32_t row) const {
+  std::string texts;
+  for (int col = 1; col < grid_.Cols(); ++col) texts += grid_.Cell(row, col) + '\t';
+  return texts;
+}
+
+bool RowEditing::ReadRow(std::string_view label, std::int32_t row, const std::function<void()>& routine) {
+  HeldReport held;
+  const bool read = Trap(held, label, routine);
+  const std::string texts = TextsOf(row);
+  const auto known = edits_.find(row);
+  if (known != edits_.end() && known->second.reported == texts) return read;
+  if (known != edits_.end()) known->second.reported.clear();
+  if (read) return true;
+  edits_[row].reported = texts;
+  reporter_.Report(held.text);
+  return false;
+}
+
 // Leaving a row.
+
+void RowEditing::TakeCurrentRow() {
+  OldRow = NewRow = grid_.Row();
+}
 
 void RowEditing::LeaveCell() {
   OldRow = grid_.Row();
@@ -52,7 +119,7 @@ void RowEditing::LeaveCell() {
 void RowEditing::RowColChange() {
   Trap(reporter_, rules_.labels.rowColChange, [&] {
     NewRow = grid_.Row();
-    if (globals_.RowChanged && NewRow != OldRow) AfterRowEdit();
+    if (NewRow != OldRow && Waits(OldRow)) AfterRowEdit();
     SetOldRowStatus();
     if (OldRow != NewRow) SetNewRowStatus();
   });
@@ -66,14 +133,16 @@ void RowEditing::LostFocus() {
   });
 }
 
+// The cursor goes back to an empty row that it skipped, then the row that was left is stored.
 void RowEditing::AfterRowEdit() {
   Trap(reporter_, rules_.labels.afterRowEdit, [&] {
-    const std::int32_t entered = RowEntered();
+    const std::int32_t left = Existing(OldRow);
+    const std::int32_t entered = Existing(NewRow);
     if (entered > 0) {
       if (rules_.marksRowEntered) SetMarker(entered, "?");
-      if (grid_.Rows() >= 2 && HoldsNothing(entered - 1)) SendCursorBack();
+      if (HoldsNothing(entered - 1)) SendCursorBack();
     }
-    StoreRows();
+    SaveRow(left);
   });
 }
 
@@ -84,46 +153,54 @@ bool RowEditing::HoldsNothing(std::int32_t row) const {
 
 // Writing Row raises the grid's events before this goes on: OldRow then holds the row just entered.
 void RowEditing::SendCursorBack() {
-  grid_.SetRow(RowEntered() - 1);
+  grid_.SetRow(NewRow - 1);
   if (rules_.scrollsBack && grid_.TopRow() >= 2) grid_.SetTopRow(grid_.Row() - 1);
 }
 
-// Storing a row clears RowChanged; one that raised an error on the way there leaves it set.
-void RowEditing::StoreRows() {
-  const bool stillFailing = RetryFailedRow();
-  saveRow_();
-  if (globals_.RowChanged) failedRow_ = RowLeft();
-  globals_.RowChanged = globals_.RowChanged || stillFailing;
-}
-
-bool RowEditing::RetryFailedRow() {
-  const std::int32_t failed = Existing(std::exchange(failedRow_, 0));
-  const std::int32_t left = OldRow;
-  if (failed == 0 || failed == left) return false;
-  OldRow = failed;
-  saveRow_();
-  OldRow = left;
-  if (globals_.RowChanged) failedRow_ = failed;
-  return globals_.RowChanged;
-}
-
-void RowEditing::TakeCurrentRow() {
-  OldRow = grid_.Row();
-}
-
-void RowEditing::MarkChanged() {
-  TakeCurrentRow();
-  globals_.RowChanged = true;
-}
+// Storing.
 
 void RowEditing::CommitPending() {
-  if (globals_.RowChanged) AfterRowEdit();
+  for (const std::int32_t row : WaitingRows()) {
+    if (row == OldRow) {
+      AfterRowEdit();
+    } else {
+      SaveRow(row);
+    }
+  }
 }
+
+// A row that isn't complete waits no longer either, and its texts stay in the grid.
+void RowEditing::SaveRow(std::int32_t row) {
+  if (!Waits(row)) return;
+  const std::int32_t left = std::exchange(OldRow, row);
+  if (ReadRow(rules_.labels.saveRow, row, [&] { storeRow_(row); })) {
+    MarkStored(row);
+  } else {
+    ShowStatus(rules_.labels.setOldRowStatus, row);
+  }
+  if (left != row) OldRow = left;
+}
+
+void RowEditing::StartOver() {
+  if (!std::exchange(edits_, {}).empty()) globals_.RowChanged = false;
+}
+
+void RowEditing::Close() {
+  for (const std::int32_t row : WaitingRows()) SaveRow(row);
+  edits_.clear();
+  globals_.RowChanged = false;
+}
+
+// Rows that come and go.
 
 void RowEditing::RemoveRow(std::int32_t row) {
   grid_.RemoveItem(row);
-  if (failedRow_ == row) failedRow_ = 0;
-  if (failedRow_ > row) --failedRow_;
+  std::map<std::int32_t, Edit> moved;
+  for (const auto& [at, edit] : edits_) {
+    if (at != row) moved.emplace(at > row ? at - 1 : at, edit);
+  }
+  edits_ = std::move(moved);
+  ShowPending();
 }
 
 void RowEditing::GoToNewRow() {

@@ -16,10 +16,12 @@ InvoiceDetail::InvoiceDetail(Program& host)
       rows_(ItemList, globals, desktop,
             {.labels = {.setOldRowStatus = "InvoiceDetail.SetOldRowStatus -",
                         .setNewRowStatus = "InvoiceDetail.SetNewRowStatus -",
-                        .afterRowEdit = "InvoiceDetail.ItemList_AfterRowEdit -"},
+                        .afterRowEdit = "InvoiceDetail.ItemList_AfterRowEdit -",
+                        .afterEdit = "InvoiceDetail.ItemList_AfterEdit -",
+                        .saveRow = "InvoiceDetail.SaveRow -"},
              .testColumns = {kItemNum},
              .scrollsBack = true},
-            [this] { SaveRow(); }) {
+            [this](std::int32_t row) { StoreRow(row); }) {
   using namespace layout;
   txtTax.SetToolTip("Sales Tax");
   SetLayout(Column(
@@ -277,6 +279,10 @@ void InvoiceDetail::ReloadSales() {
   GetInvoices(program, Date());
   screens.Show(CustInvoices::kName);
   globals.ItemsChanged = false;
+}
+
+void InvoiceDetail::Form_Unload() {
+  rows_.Close();
 }
 
 }  // namespace norvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "forms/Form.h"
@@ -48,8 +49,7 @@ class InvoiceDetail : public Form {
   /// Shows the total of what stands on the screen; the database isn't asked. Reports its errors and leaves the old
   /// total then.
   void GetInvoiceTotal();
-  /// Writes a line to the database under the key `transNum`, 0 for a new line, and the key into the grid. oInvoice must
-  /// be open.
+  /// Writes a line to the database under the key `transNum`, 0 for a new line, and the key into the grid.
   void StoreLine(std::int32_t row, std::int32_t transNum);
   /// Whether QtyLeft says that the line's item has run out.
   bool IsShort() const;
@@ -83,23 +83,25 @@ class InvoiceDetail : public Form {
   void txtShipCharge_LostFocus();
   void btnExit_Click();
   void ReloadSales();
+  void Form_Unload() override;
 
   void ItemList_GotFocus();
   void ItemList_BeforeEdit(int row, int col);
   void ItemList_AfterEdit(int row, int col);
   void ChangeQuantity(int row);
   void ItemList_LeaveCell();
-  void SaveRow();
+  void StoreRow(std::int32_t row);
   void btnNewItem_Click();
   void btnRemove_Click();
 
   RowEditing rows_;
-  Object<Recordset> rsItems;                    ///< the lines while they are loaded
-  std::int32_t LineRow = 1;                     ///< the next row to fill while lines are loaded
-  std::string BackOrderText;                    ///< of the line being loaded, empty for none
-  bool SkipTotal = false;                       ///< the first LeaveCell after a load doesn't total
-  std::int32_t CustShown = globals.CurCustNum;  ///< whose invoice it is, whoever is selected meanwhile
-  bool NewInvoice = false;                      ///< the head isn't stored yet
+  Object<Recordset> rsItems;                        ///< the lines while they are loaded
+  std::int32_t LineRow = 1;                         ///< the next row to fill while lines are loaded
+  std::string BackOrderText;                        ///< of the line being loaded, empty for none
+  std::map<std::int32_t, std::int32_t> CountedQty;  ///< by line: the quantity that the stock was last counted with
+  bool SkipTotal = false;                           ///< the first LeaveCell after a load doesn't total
+  std::int32_t CustShown = globals.CurCustNum;      ///< whose invoice it is, whoever is selected meanwhile
+  bool NewInvoice = false;                          ///< the head isn't stored yet
 };
 
 }  // namespace norvane

@@ -58,32 +58,32 @@ void InvoiceDetail::ItemList_GotFocus() {
   });
 }
 
+// A quantity that can't be read was never counted: the one before it still is.
 void InvoiceDetail::ItemList_BeforeEdit(int row, int col) {
-  Trapped("InvoiceDetail.ItemList_BeforeEdit -", [&] {
-    if (col != kQuantity) return;
+  if (col != kQuantity) return;
+  std::int32_t& counted = CountedQty[ValLong(ItemList.Cell(row, kTransNum))];
+  rows_.ReadRow("InvoiceDetail.ItemList_BeforeEdit -", row, [&] {
     const std::string quantity = ItemList.Cell(row, kQuantity);
-    globals.BeforeQty = quantity.empty() ? 0 : convert.ToLong(quantity);
+    counted = quantity.empty() ? 0 : convert.ToLong(quantity);
   });
+  globals.BeforeQty = counted;
 }
 
 // Other columns wait for nothing: they are stored along with a quantity or back order of their row, or not at all.
 void InvoiceDetail::ItemList_AfterEdit(int row, int col) {
-  Trapped("InvoiceDetail.ItemList_AfterEdit -", [&] {
-    rows_.TakeCurrentRow();
-    if (col == kQuantity && convert.ToDouble(ItemList.Cell(row, kQuantity)) != globals.BeforeQty) {
-      ChangeQuantity(row);
-      globals.RowChanged = true;
-    }
-    if (col == kBackOrder) globals.RowChanged = true;
-    rows_.SetOldRowStatus();
+  rows_.AfterEdit(row, [&] {
+    if (col != kQuantity) return col == kBackOrder;
+    if (convert.ToDouble(ItemList.Cell(row, kQuantity)) == globals.BeforeQty) return false;
+    ChangeQuantity(row);
+    return true;
   });
 }
 
 // The stock moves now. A line becomes back-ordered by the part of the change that the stock didn't cover.
 void InvoiceDetail::ChangeQuantity(int row) {
-  globals.oInventory->OpenCn();
   globals.EditQty = convert.ToLong(ItemList.Cell(row, kQuantity));
   const std::int32_t itemNum = convert.ToLong(ItemList.Cell(row, kItemNum));
+  globals.oInventory->OpenCn();
   globals.QtyLeft = globals.oInventory->QtyInStock(itemNum, globals.BeforeQty, globals.EditQty);
   globals.oInventory->CloseCn();
   if (!IsShort()) return;
@@ -104,9 +104,9 @@ void InvoiceDetail::ReportBackOrder(std::int32_t row) {
 }
 
 void InvoiceDetail::ItemList_LeaveCell() {
-  Trapped("InvoiceDetail.ItemList_LeaveCell -", [&] {
-    rows_.LeaveCell();
-    const std::int32_t row = rows_.OldRow;
+  rows_.LeaveCell();
+  const std::int32_t row = rows_.OldRow;
+  rows_.ReadRow("InvoiceDetail.ItemList_LeaveCell -", row, [&] {
     if (row > 0 && !ItemList.Cell(row, kItemNum).empty() && !ItemList.Cell(row, kTransNum).empty()) {
       const double total =
           convert.ToDouble(ItemList.Cell(row, kCharge)) * convert.ToDouble(ItemList.Cell(row, kQuantity));
@@ -119,21 +119,10 @@ void InvoiceDetail::ItemList_LeaveCell() {
 
 // Storing.
 
-// Whatever the row holds is stored; there is no test whether it is complete.
-void InvoiceDetail::SaveRow() {
-  Trapped("InvoiceDetail.SaveRow -", [&] {
-    const std::int32_t row = rows_.RowLeft();
-    const std::string key = ItemList.Cell(row, kTransNum);
-    const bool isNew = key.empty() || row == 0;
-    globals.oInvoice->OpenCn();
-    StoreLine(row, isNew ? 0 : convert.ToLong(key));
-    rows_.SetOldRowStatus();
-    if (rows_.OldRow != rows_.NewRow) rows_.SetNewRowStatus();
-    globals.oInvoice->CloseCn();
-    // The first line takes the head along.
-    if (row == 1) btnSave_Click();
-    globals.RowChanged = false;
-  });
+// Whatever the row holds is stored; there is no test whether it is complete. The first line takes the head along.
+void InvoiceDetail::StoreRow(std::int32_t row) {
+  StoreLine(row, ValLong(ItemList.Cell(row, kTransNum)));
+  if (row == 1) btnSave_Click();
 }
 
 void InvoiceDetail::StoreLine(std::int32_t row, std::int32_t transNum) {
@@ -146,9 +135,12 @@ void InvoiceDetail::StoreLine(std::int32_t row, std::int32_t transNum) {
   line->TransNotes = cell(kDescription);
   line->charge = convert.ToCurrency(cell(kTotal));
   line->BackOrder = cell(kBackOrder).empty() ? 0 : convert.ToLong(cell(kBackOrder));
+  line->OpenCn();
   line->SaveTransAccess();
+  line->CloseCn();
   globals.ItemsChanged = true;
   ItemList.SetCell(row, kTransNum, convert.ToText(line->TransNum));
+  rows_.MarkStored(row);
 }
 
 // Buttons.

@@ -23,18 +23,19 @@ constexpr std::int32_t kEveryClient = -1;
 
 }  // namespace
 
-// AfterRowEdit leaves the row entered unmarked here, and the flag of a pending edit is cleared whatever becomes of it.
 Receipts::Receipts(Program& host)
     : Form(host, kName, {.caption = "Payments Received"}),
       rows_(PaymentList, globals, desktop,
             {.labels = {.setOldRowStatus = "Receipts.SetOldRowStatus -",
                         .setNewRowStatus = "Receipts.SetNewRowStatus -",
-                        .afterRowEdit = "Receipts.PaymentList_AfterRowEdit -"},
+                        .afterRowEdit = "Receipts.PaymentList_AfterRowEdit -",
+                        .afterEdit = "Receipts.PaymentList_AfterEdit -",
+                        .saveRow = "Receipts.SaveRow -"},
              .testColumns = {kAmount},
              .marksRowEntered = false,
              .scrollsBack = true,
              .scrollsToNewRow = false},
-            [this] { SaveRow(); }) {
+            [this](std::int32_t row) { StoreRow(row); }) {
   using namespace layout;
   PaymentList.SetTop(900);
   for (Button* button : {&Command2, &btnPrint}) button->SetWidth(480);
@@ -89,6 +90,7 @@ void Receipts::ReadPayments() {
 }
 
 void Receipts::SetUpGrid() {
+  rows_.StartOver();
   PaymentList.Clear();
   PaymentList.SetRows(2);
   PaymentList.SetColumns({{"^", 300},
@@ -199,7 +201,7 @@ bool Receipts::AreFilled(int row, std::initializer_list<int> cols) const {
 
 // A row that is complete counts as started, and a new empty one stands at the end.
 void Receipts::PaymentList_AfterEdit(int row, int col) {
-  Trapped("Receipts.PaymentList_AfterEdit -", [&] {
+  rows_.AfterEdit(row, [&] {
     if (!ShowsAllClients()) {
       PaymentList.SetCell(row, kCustNum, convert.ToText(globals.CurCustNum));
       PaymentList.SetCell(row, kClient, globals.CurClientName);
@@ -212,8 +214,7 @@ void Receipts::PaymentList_AfterEdit(int row, int col) {
       }
     }
     if (col == kType) FillCardNumber(row);
-    rows_.MarkChanged();
-    rows_.SetOldRowStatus();
+    return true;
   });
 }
 
@@ -237,20 +238,11 @@ void Receipts::PaymentList_CellButtonClick(int row, int col) {
   });
 }
 
-// The flag goes first: a row that can't be stored is not tried again.
-void Receipts::SaveRow() {
-  Trapped("Receipts.SaveRow -", [&] {
-    globals.RowChanged = false;
-    const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && AreFilled(row, {kCustNum, kDate, kAmount})) StoreRow(row);
-  });
-}
-
 // All is read before the connection opens, so that what can't be read leaves none open.
 void Receipts::StoreRow(std::int32_t row) {
-  const std::string key = PaymentList.Cell(row, kTransNum);
+  if (!AreFilled(row, {kCustNum, kDate, kAmount})) return;
   const Object<Invoice> payment = globals.oInvoice;
-  payment->PayNum = key.empty() ? 0 : convert.ToLong(key);
+  payment->PayNum = ValLong(PaymentList.Cell(row, kTransNum));
   payment->CustNum = convert.ToLong(PaymentList.Cell(row, kCustNum));
   payment->Paytype = PaymentList.DisplayText(row, kType);
   payment->Checknum = PaymentList.Cell(row, kCheckNum);
@@ -259,10 +251,8 @@ void Receipts::StoreRow(std::int32_t row) {
   payment->PayNotes = PaymentList.Cell(row, kNotes);
   payment->OpenCn();
   payment->SavePayment();
-  PaymentList.SetCell(row, kTransNum, convert.ToText(std::int32_t{payment->PayNum}));
-  rows_.SetOldRowStatus();
-  if (rows_.OldRow != rows_.NewRow) rows_.SetNewRowStatus();
   payment->CloseCn();
+  PaymentList.SetCell(row, kTransNum, convert.ToText(std::int32_t{payment->PayNum}));
 }
 
 // Buttons.
@@ -305,6 +295,7 @@ void Receipts::Form_Resize() {
 }
 
 void Receipts::Form_Unload() {
+  rows_.Close();
   Trapped("Receipts.Form_Unload -", [&] { WriteGeometry(kSection); });
 }
 

@@ -50,7 +50,6 @@ class Receipts : public Form {
   bool AreFilled(int row, std::initializer_list<int> cols) const;
   void FillCardNumber(int row);
   void PaymentList_CellButtonClick(int row, int col);
-  void SaveRow();
   void StoreRow(std::int32_t row);
 
   void btnDelete_Click();

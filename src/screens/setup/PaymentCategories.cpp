@@ -13,14 +13,14 @@ constexpr TypeListKind kPaymentTypes{
     .save = &cSetup::SavePaymentType,
     .remove = &cSetup::DeletePaymentType,
     .labels = {.formLoad = "PaymentCategories.Form_Load -",
-               .afterEdit = "PaymentCategories.PaymentList_AfterEdit -",
                .click = "PaymentCategories.PaymentList_Click -",
-               .saveRow = "PaymentCategories.SaveRow -",
                .btnNew = "PaymentCategories.btnNew_Click -",
                .btnDelete = "PaymentCategories.btnDelete_Click -"},
     .rowLabels = {.setOldRowStatus = "PaymentCategories.SetOldRowStatus -",
                   .setNewRowStatus = "PaymentCategories.SetNewRowStatus -",
                   .afterRowEdit = "PaymentCategories.AfterRowEdit -",
+                  .afterEdit = "PaymentCategories.PaymentList_AfterEdit -",
+                  .saveRow = "PaymentCategories.SaveRow -",
                   .rowColChange = "PaymentCategories.PaymentList_RowColChange -"},
 };
 

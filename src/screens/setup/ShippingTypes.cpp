@@ -11,10 +11,12 @@ ShippingTypes::ShippingTypes(Program& host)
             {.labels = {.setOldRowStatus = "ShippingTypes.SetOldRowStatus -",
                         .setNewRowStatus = "ShippingTypes.SetNewRowStatus -",
                         .afterRowEdit = "ShippingTypes.ShippingList_AfterRowEdit -",
+                        .afterEdit = "ShippingTypes.ShippingList_AfterEdit -",
+                        .saveRow = "ShippingTypes.SaveRow -",
                         .rowColChange = "ShippingTypes.RowColChange -"},
              .testColumns = {kService},
              .zeroMeansStarted = false},
-            [this] { SaveRow(); }) {
+            [this](std::int32_t row) { StoreRow(row); }) {
   SetLayout(
       layout::Column({layout::Stretch(ShippingList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
   SetExitButton(btnExit);
@@ -23,7 +25,7 @@ ShippingTypes::ShippingTypes(Program& host)
   ShippingList.Click = [this] { ShippingList_Click(); };
   btnNew.Click = Trapping("ShippingTypes.btnNew_Click -", [this] { rows_.GoToNewRow(); });
   btnDelete.Click = [this] { btnDelete_Click(); };
-  btnExit.Click = [this] { btnExit_Click(); };
+  btnExit.Click = [this] { Unload(); };
 }
 
 void ShippingTypes::Form_Load() {
@@ -50,31 +52,17 @@ bool ShippingTypes::HasKey(std::int32_t row) const {
 }
 
 void ShippingTypes::ShippingList_AfterEdit(int row) {
-  Trapped("ShippingTypes.ShippingList_AfterEdit -", [&] {
-    rows_.TakeCurrentRow();
-    if (HasKey(row)) globals.RowChanged = true;
-    rows_.SetOldRowStatus();
-  });
-}
-
-void ShippingTypes::SaveRow() {
-  Trapped("ShippingTypes.SaveRow -", [&] {
-    const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && HasKey(row)) StoreRow(row);
-    globals.RowChanged = false;
-    rows_.SetOldRowStatus();
-  });
+  rows_.AfterEdit(row, [&] { return HasKey(row); });
 }
 
 void ShippingTypes::StoreRow(std::int32_t row) {
-  globals.oSetup->OpenCn();
-  const std::string service = ShippingList.Cell(row, kService);
-  const std::string option = ShippingList.Cell(row, kWeight);
+  if (!HasKey(row)) return;
   if (ShippingList.Cell(row, kCharge).empty()) ShippingList.SetCell(row, kCharge, "0");
-  globals.oSetup->SaveShippingType(service, option, convert.ToCurrency(ShippingList.Cell(row, kCharge)));
+  const Currency charge = convert.ToCurrency(ShippingList.Cell(row, kCharge));
+  globals.oSetup->OpenCn();
+  globals.oSetup->SaveShippingType(ShippingList.Cell(row, kService), ShippingList.Cell(row, kWeight), charge);
   ReadList();
   globals.oSetup->CloseCn();
-  rows_.SetMarker(row, "");
 }
 
 void ShippingTypes::ReadList() {
@@ -105,9 +93,8 @@ void ShippingTypes::btnDelete_Click() {
   });
 }
 
-void ShippingTypes::btnExit_Click() {
-  rows_.CommitPending();
-  Unload();
+void ShippingTypes::Form_Unload() {
+  rows_.Close();
 }
 
 }  // namespace norvane

@@ -26,11 +26,10 @@ class ShippingTypes : public Form {
   void Form_Load() override;
   void ShippingList_AfterEdit(int row);
   void ShippingList_Click();
-  void SaveRow();
   void StoreRow(std::int32_t row);
   void ReadList();
   void btnDelete_Click();
-  void btnExit_Click();
+  void Form_Unload() override;
   bool HasKey(std::int32_t row) const;
 
   RowEditing rows_;

@@ -7,7 +7,8 @@ namespace norvane {
 TypeList::TypeList(Program& host, const TypeListKind& kind)
     : Form(host, kind.name, {.caption = kind.caption, .width = 4800, .height = 5200}),
       kind_(kind),
-      rows_(PaymentList, globals, desktop, {.labels = kind.rowLabels, .testColumns = {kType}}, [this] { SaveRow(); }) {
+      rows_(PaymentList, globals, desktop, {.labels = kind.rowLabels, .testColumns = {kType}, .storesAtOnce = true},
+            [this](std::int32_t row) { StoreRow(row); }) {
   SetLayout(
       layout::Column({layout::Stretch(PaymentList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
   SetExitButton(btnExit);
@@ -35,29 +36,16 @@ void TypeList::Form_Load() {
 }
 
 void TypeList::PaymentList_AfterEdit(int row) {
-  Trapped(kind_.labels.afterEdit, [&] {
-    if (!PaymentList.Cell(row, kType).empty()) {
-      rows_.TakeCurrentRow();
-      SaveRow();
-    }
-    rows_.SetOldRowStatus();
-  });
+  rows_.AfterEdit(row, [&] { return !PaymentList.Cell(row, kType).empty(); });
 }
 
-void TypeList::SaveRow() {
-  Trapped(kind_.labels.saveRow, [&] {
-    const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && !PaymentList.Cell(row, kType).empty()) {
-      const Object<cSetup> setup = globals.oSetup;
-      setup->OpenCn();
-      std::invoke(kind_.save, *setup, PaymentList.Cell(row, kType));
-      ReadList();
-      setup->CloseCn();
-      rows_.SetMarker(row, "");
-    }
-    globals.RowChanged = false;
-    rows_.SetOldRowStatus();
-  });
+void TypeList::StoreRow(std::int32_t row) {
+  if (PaymentList.Cell(row, kType).empty()) return;
+  const Object<cSetup> setup = globals.oSetup;
+  setup->OpenCn();
+  std::invoke(kind_.save, *setup, PaymentList.Cell(row, kType));
+  ReadList();
+  setup->CloseCn();
 }
 
 // Every drop-down built later sees the change.
@@ -89,8 +77,11 @@ void TypeList::btnDelete_Click() {
 }
 
 void TypeList::btnExit_Click() {
-  rows_.CommitPending();
   Unload();
+}
+
+void TypeList::Form_Unload() {
+  rows_.Close();
 }
 
 }  // namespace norvane

@@ -19,7 +19,7 @@ struct TypeListKind {
   void (cSetup::*save)(const std::string&);
   void (cSetup::*remove)(const std::string&);
   struct Labels {
-    std::string_view formLoad, afterEdit, click, saveRow, btnNew, btnDelete;
+    std::string_view formLoad, click, btnNew, btnDelete;
   } labels;
   RowEditingRules::Labels rowLabels;
 };
@@ -46,9 +46,10 @@ class TypeList : public Form {
   void Form_Load() override;
   void PaymentList_AfterEdit(int row);
   void PaymentList_Click();
-  void SaveRow();
+  void StoreRow(std::int32_t row);
   void ReadList();
   void btnDelete_Click();
+  void Form_Unload() override;
 
   const TypeListKind& kind_;
   RowEditing rows_;

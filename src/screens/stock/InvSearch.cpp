@@ -72,7 +72,7 @@ void InvSearch::btnOK_Click() {
     auto& invoice = screens.Touch<InvoiceDetail>();
     AddLine(invoice, picked);
     MarkBackOrder(invoice);
-    StoreLine(invoice);
+    invoice.StoreLine(globals.RowSelected, 0);
     invoice.GetInvoiceTotal();
     Unload();
     invoice.Refresh();
@@ -82,8 +82,9 @@ void InvSearch::btnOK_Click() {
 
 // The unit leaves stock now, whether or not the invoice is ever saved.
 void InvSearch::TakeFromStock(int picked) {
+  const std::int32_t itemNum = convert.ToLong(InventoryList.Cell(picked, 0));
   globals.oInventory->OpenCn();
-  globals.QtyLeft = globals.oInventory->QtyInStock(convert.ToLong(InventoryList.Cell(picked, 0)), 0, 1);
+  globals.QtyLeft = globals.oInventory->QtyInStock(itemNum, 0, 1);
   globals.oInventory->CloseCn();
 }
 
@@ -114,13 +115,6 @@ void InvSearch::MarkBackOrder(InvoiceDetail& invoice) {
       desktop.Say("Last " + lines.Cell(row, InvoiceDetail::kDescription) + " in Inventory added to Invoice.");
     }
   }
-}
-
-void InvSearch::StoreLine(InvoiceDetail& invoice) {
-  globals.oInvoice->OpenCn();
-  invoice.StoreLine(globals.RowSelected, 0);
-  invoice.ItemList.SetCell(globals.RowSelected, InvoiceDetail::kMarker, ">");
-  globals.oInvoice->CloseCn();
 }
 
 void InvSearch::btnInventory_Click() {

@@ -26,7 +26,6 @@ class InvSearch : public Form {
   void TakeFromStock(int picked);
   void AddLine(InvoiceDetail& invoice, int picked);
   void MarkBackOrder(InvoiceDetail& invoice);
-  void StoreLine(InvoiceDetail& invoice);
   void btnInventory_Click();
 };
 

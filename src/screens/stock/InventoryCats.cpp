@@ -14,9 +14,12 @@ InventoryCats::InventoryCats(Program& host)
             {.labels = {.setOldRowStatus = "InventoryCats.SetOldRowStatus -",
                         .setNewRowStatus = "InventoryCats.SetNewRowStatus -",
                         .afterRowEdit = "InventoryCats.InventoryList_AfterRowEdit -",
+                        .afterEdit = "InventoryCats.InventoryList_AfterEdit -",
+                        .saveRow = "InventoryCats.SaveRow -",
                         .rowColChange = "InventoryCats.InventoryList_RowColChange -"},
-             .testColumns = {kDescription}},
-            [this] { SaveRow(); }) {
+             .testColumns = {kDescription},
+             .storesAtOnce = true},
+            [this](std::int32_t row) { StoreRow(row); }) {
   SetLayout(
       layout::Column({layout::Stretch(InventoryList), layout::Strip({btnNew, btnDelete, layout::Space(), btnExit})}));
   SetExitButton(btnExit);
@@ -47,29 +50,16 @@ void InventoryCats::Form_Load() {
 }
 
 void InventoryCats::InventoryList_AfterEdit(int row) {
-  Trapped("InventoryCats.InventoryList_AfterEdit -", [&] {
-    if (InventoryList.Cell(row, kDescription).empty()) return;
-    rows_.TakeCurrentRow();
-    SaveRow();
-  });
+  rows_.AfterEdit(row, [&] { return !InventoryList.Cell(row, kDescription).empty(); });
 }
 
-void InventoryCats::SaveRow() {
-  Trapped("InventoryCats.SaveRow -", [&] {
-    const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && !InventoryList.Cell(row, kDescription).empty()) {
-      const Object<Inventory> inventory = globals.oInventory;
-      inventory->OpenCn();
-      if (InventoryList.Cell(row, kCatNum).empty()) InventoryList.SetCell(row, kCatNum, "0");
-      inventory->CatNum = convert.ToLong(InventoryList.Cell(row, kCatNum));
-      inventory->SaveCategory(inventory->CatNum, InventoryList.Cell(row, kDescription));
-      InventoryList.SetCell(row, kCatNum, convert.ToText(std::int32_t{inventory->CatNum}));
-      inventory->CloseCn();
-      rows_.SetMarker(row, "");
-    }
-    globals.RowChanged = false;
-    rows_.SetOldRowStatus();
-  });
+void InventoryCats::StoreRow(std::int32_t row) {
+  if (InventoryList.Cell(row, kDescription).empty()) return;
+  const Object<Inventory> inventory = globals.oInventory;
+  inventory->OpenCn();
+  inventory->SaveCategory(ValLong(InventoryList.Cell(row, kCatNum)), InventoryList.Cell(row, kDescription));
+  inventory->CloseCn();
+  InventoryList.SetCell(row, kCatNum, convert.ToText(std::int32_t{inventory->CatNum}));
 }
 
 void InventoryCats::InventoryList_Click() {
@@ -107,11 +97,14 @@ void InventoryCats::DeleteSelected() {
 }
 
 void InventoryCats::btnExit_Click() {
-  rows_.CommitPending();
   screens.Unload(frmInventory::kName);
   globals.CurCatNum = 1;
   screens.Show(frmInventory::kName);
   Unload();
+}
+
+void InventoryCats::Form_Unload() {
+  rows_.Close();
 }
 
 }  // namespace norvane

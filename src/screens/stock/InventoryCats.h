@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "forms/Form.h"
@@ -26,10 +27,11 @@ class InventoryCats : public Form {
   void InventoryList_AfterEdit(int row);
   void InventoryList_Click();
   void SelectRow(int row);
-  void SaveRow();
+  void StoreRow(std::int32_t row);
   void btnDelete_Click();
   void DeleteSelected();
   void btnExit_Click();
+  void Form_Unload() override;
 
   RowEditing rows_;
   std::string SelCatName;  ///< of the row clicked last

@@ -16,10 +16,12 @@ frmInventory::frmInventory(Program& host)
             {.labels = {.setOldRowStatus = "frmInventory.SetOldRowStatus -",
                         .setNewRowStatus = "frmInventory.SetNewRowStatus -",
                         .afterRowEdit = "frmInventory.InventoryList_AfterRowEdit -",
+                        .afterEdit = "frmInventory.InventoryList_AfterEdit -",
+                        .saveRow = "frmInventory.SaveRow -",
                         .rowColChange = "frmInventory.InventoryList_RowColChange -",
                         .lostFocus = "frmInventory.InventoryList_LostFocus -"},
              .testColumns = {kDescription}},
-            [this] { SaveRow(); }) {
+            [this](std::int32_t row) { StoreRow(row); }) {
   using namespace layout;
   SetLayout(Column({Strip({Field("Category:", cmbCategory), btnCategories, Space(), btnNewItem, btnDelete, Command2}),
                     Stretch(InventoryList)}));
@@ -66,6 +68,7 @@ void frmInventory::SetForm() {
 }
 
 void frmInventory::SetUpGrid() {
+  rows_.StartOver();
   InventoryList.Clear();
   InventoryList.SetRows(2);
   InventoryList.SetColumns({{"^", 300},
@@ -120,6 +123,7 @@ void frmInventory::cmbCategory_Click() {
     }
     rows_.StartOver();
     rows_.OldRow = InventoryList.Rows() - 1;
+    rows_.NewRow = InventoryList.Row();
     rows_.SetOldRowStatus();
   });
 }
@@ -134,50 +138,36 @@ bool frmInventory::IsComplete(int row) const {
 }
 
 void frmInventory::InventoryList_AfterEdit(int row) {
-  Trapped("frmInventory.InventoryList_AfterEdit -", [&] {
-    rows_.TakeCurrentRow();
-    if (IsComplete(row)) {
-      InventoryList.SetCell(row, kCharge, convert.CurrencyText(std::string_view(InventoryList.Cell(row, kCharge))));
-      globals.RowChanged = true;
-      const int last = InventoryList.Rows() - 1;
-      if (rows_.NewRow == last && InventoryList.Cell(last, kItemNum).empty()) {
-        InventoryList.SetCell(last, kItemNum, "0");
-        InventoryList.SetRows(InventoryList.Rows() + 1);
-      }
+  rows_.AfterEdit(row, [&] {
+    if (!IsComplete(row)) return false;
+    InventoryList.SetCell(row, kCharge, convert.CurrencyText(std::string_view(InventoryList.Cell(row, kCharge))));
+    if (row == InventoryList.Rows() - 1 && InventoryList.Cell(row, kItemNum).empty()) {
+      InventoryList.SetCell(row, kItemNum, "0");
+      InventoryList.SetRows(InventoryList.Rows() + 1);
     }
-    rows_.SetOldRowStatus();
-  });
-}
-
-void frmInventory::SaveRow() {
-  Trapped("frmInventory.SaveRow -", [&] {
-    const std::int32_t row = rows_.RowLeft();
-    if (row > 0 && !InventoryList.Cell(row, kDescription).empty()) StoreRow(row);
-    globals.RowChanged = false;
+    return true;
   });
 }
 
 // What is typed for the stock replaces the count: stock is taken by editing that column.
 void frmInventory::StoreRow(std::int32_t row) {
-  const std::string key = InventoryList.Cell(row, kItemNum);
-  std::int32_t itemNum = key.empty() ? 0 : convert.ToLong(key);
+  if (InventoryList.Cell(row, kDescription).empty()) return;
   for (int col = kPar; col <= kWarranty; ++col) {
     if (InventoryList.Cell(row, col).empty()) InventoryList.SetCell(row, col, "0");
   }
   const Object<Inventory> item = globals.oInventory;
-  item->OpenCn();
   item->Category = CatShown;
   item->description = InventoryList.Cell(row, kDescription);
   item->charge = convert.ToCurrency(InventoryList.Cell(row, kCharge));
   item->Par = convert.ToLong(InventoryList.Cell(row, kPar));
   item->InStock = convert.ToLong(InventoryList.Cell(row, kInStock));
   item->Warranty = InventoryList.Cell(row, kWarranty);
+  std::int32_t itemNum = ValLong(InventoryList.Cell(row, kItemNum));
+  item->OpenCn();
   item->SaveItemAccess(itemNum);
+  item->CloseCn();
   InventoryList.SetCell(row, kItemNum, convert.ToText(std::int32_t{item->ItemNum}));
   InventoryList.SetCell(row, kCharge, convert.CurrencyText(std::string_view(InventoryList.Cell(row, kCharge))));
-  rows_.SetOldRowStatus();
-  if (rows_.NewRow != 0) rows_.SetNewRowStatus();
-  item->CloseCn();
 }
 
 void frmInventory::InventoryList_Click() {
@@ -208,6 +198,10 @@ void frmInventory::btnDelete_Click() {
 
 void frmInventory::btnCategories_Click() {
   screens.Show(InventoryCats::kName, {.owner = this, .modal = true});
+}
+
+void frmInventory::Form_Unload() {
+  rows_.Close();
 }
 
 }  // namespace norvane

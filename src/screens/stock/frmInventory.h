@@ -35,12 +35,12 @@ class frmInventory : public Form {
 
   void InventoryList_AfterEdit(int row);
   bool IsComplete(int row) const;
-  void SaveRow();
   void StoreRow(std::int32_t row);
   void InventoryList_Click();
 
   void btnDelete_Click();
   void btnCategories_Click();
+  void Form_Unload() override;
 
   RowEditing rows_;
   std::int32_t CatShown = 0;    ///< the category listed; CurCatNum may be what another screen picked since

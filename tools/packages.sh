@@ -5,8 +5,9 @@
 build_packages="g++ cmake ninja-build ccache libsqlite3-dev qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation"
 # Tests: the frameworks, a display that nobody sees, a reader of PDF files, the stock shell of the store.
 test_packages="libgtest-dev libgmock-dev xvfb xauth poppler-utils sqlite3"
-# What ./check --all uses besides.
-review_packages="clang clang-format clang-tidy libbenchmark-dev"
+# What ./check --all uses besides: the benches' framework, the readers of the code, and those of the package.
+review_packages="clang clang-format clang-tidy libbenchmark-dev
+  dpkg-dev lintian appstream desktop-file-utils x11-utils"
 
 # missing_packages package...: those that aren't installed, on one line.
 missing_packages() {

@@ -75,7 +75,7 @@ class DemoForm : public Form {
       control->GotFocus = [this, control] { log.push_back("+" + control->Name()); };
       control->LostFocus = [this, control] { log.push_back("-" + control->Name()); };
     }
-    const auto note = [this](std::string entry) { return [this, entry] { log.push_back(entry); }; };
+    const auto note = [this](const std::string& entry) { return [this, entry] { log.push_back(entry); }; };
     for (Button* button : {&btnSave, &btnDelete, &btnPrint, &btnOk}) button->Click = note(button->Name() + "_Click");
     btnExit.Click = [this] { Unload(); };
     mnuExit.Click = [this] { Unload(); };

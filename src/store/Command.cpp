@@ -14,13 +14,13 @@ void Command::AppendParameter(std::string name, ParameterType type, int size) {
 Parameter& Command::Parameters(std::string_view name) {
   const auto found = std::find_if(parameters_.begin(), parameters_.end(),
                                   [&](const Parameter& each) { return EqualNoCase(each.name, name); });
-  if (found == parameters_.end()) throw store_error::ItemNotFound();
+  if (found == parameters_.end()) throw store::error::ItemNotFound();
   return *found;
 }
 
 void Command::Execute() {
-  if (!connection_) throw store_error::ConnectionInvalid();
-  throw store_error::NoServer();
+  if (!connection_) throw store::error::ConnectionInvalid();
+  throw store::error::NoServer();
 }
 
 }  // namespace norvane

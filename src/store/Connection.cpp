@@ -1,6 +1,7 @@
 #include "store/Connection.h"
 
 #include "core/Characters.h"
+#include "store/Engine.h"
 #include "store/internal/Session.h"
 #include "store/internal/StoreError.h"
 
@@ -29,18 +30,18 @@ int Connection::State() const {
 }
 
 void Connection::Open(const std::string&, const std::string&) {
-  if (session_) throw store_error::ObjectOpen();
-  if (!IsFileProvider(ConnectionString)) throw store_error::NoServer();
-  session_ = std::make_unique<Session>(engine_.Internals(), DataSource(ConnectionString));
+  if (session_) throw store::error::ObjectOpen();
+  if (!IsFileProvider(ConnectionString)) throw store::error::NoServer();
+  session_ = std::make_unique<store::Session>(engine_.Internals(), DataSource(ConnectionString));
 }
 
 void Connection::Close() {
-  if (!session_) throw store_error::ObjectClosed();
+  if (!session_) throw store::error::ObjectClosed();
   session_.reset();
 }
 
-Connection::Session& Connection::Use() {
-  if (!session_) throw store_error::ConnectionInvalid();
+store::Session& Connection::Use() {
+  if (!session_) throw store::error::ConnectionInvalid();
   return *session_;
 }
 

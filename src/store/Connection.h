@@ -7,6 +7,10 @@ namespace norvane {
 
 class Engine;
 
+namespace store {
+class Session;
+}  // namespace store
+
 enum class CursorLocation { Server = 2, Client = 3 };
 
 /// One connection to the database file. Open only between a caller's OpenCn and CloseCn.
@@ -29,13 +33,12 @@ class Connection {
   /// Raises 3704 if it is closed.
   void Close();
 
-  struct Session;
   /// The open file, for Recordset and Command. Raises 3709 if it is closed.
-  Session& Use();
+  store::Session& Use();
 
  private:
   Engine& engine_;
-  std::unique_ptr<Session> session_;
+  std::unique_ptr<store::Session> session_;
 };
 
 }  // namespace norvane

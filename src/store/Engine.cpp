@@ -1,7 +1,6 @@
 #include "store/Engine.h"
 
 #include "store/internal/EngineState.h"
-#include "store/internal/StoreError.h"
 
 namespace norvane {
 
@@ -9,7 +8,7 @@ namespace {
 
 class FileHeldAlone final : public SoleUse {
  public:
-  explicit FileHeldAlone(KnownFile& file) : file_(file) { file_.heldAlone = true; }
+  explicit FileHeldAlone(store::KnownFile& file) : file_(file) { file_.heldAlone = true; }
   ~FileHeldAlone() override { file_.heldAlone = false; }
   FileHeldAlone(const FileHeldAlone&) = delete;
   FileHeldAlone& operator=(const FileHeldAlone&) = delete;
@@ -19,13 +18,13 @@ class FileHeldAlone final : public SoleUse {
   }
 
  private:
-  KnownFile& file_;
+  store::KnownFile& file_;
   store::FileLock lock_;
 };
 
 }  // namespace
 
-Engine::Engine() : state_(std::make_unique<State>()) {}
+Engine::Engine() : state_(std::make_unique<store::EngineState>()) {}
 Engine::~Engine() = default;
 
 int Engine::OpenConnections(const std::filesystem::path& file) const {
@@ -38,7 +37,7 @@ int Engine::OpenConnections(const std::filesystem::path& file) const {
 std::unique_ptr<SoleUse> Engine::HoldAlone(const std::filesystem::path& file) {
   const auto identity = store::FileIdentity::Of(file);
   if (!identity) return std::make_unique<SoleUse>();
-  KnownFile& use = state_->files[*identity];
+  store::KnownFile& use = state_->files[*identity];
   if (use.connections > 0 || use.heldAlone) return nullptr;
   auto held = std::make_unique<FileHeldAlone>(use);
   return held->Take(file, state_->patience) ? std::move(held) : nullptr;
@@ -47,22 +46,5 @@ std::unique_ptr<SoleUse> Engine::HoldAlone(const std::filesystem::path& file) {
 void Engine::WaitForOthers(std::chrono::milliseconds patience) {
   state_->patience = patience;
 }
-
-namespace store {
-
-Participation::Participation(Engine::State& engine, const std::filesystem::path& file, const std::string& name)
-    : file_(engine.files[FileIdentity::Of(file).value_or(FileIdentity{})]) {
-  if (file_.heldAlone) throw store_error::FileInUse(name);
-  if (file_.connections == 0 && !file_.lock.Take(file, FileLock::Kind::Shared, engine.patience)) {
-    throw store_error::FileInUse(name);
-  }
-  ++file_.connections;
-}
-
-Participation::~Participation() {
-  if (--file_.connections == 0) file_.lock.Release();
-}
-
-}  // namespace store
 
 }  // namespace norvane

@@ -6,6 +6,10 @@
 
 namespace norvane {
 
+namespace store {
+struct EngineState;
+}  // namespace store
+
 /// Sole use of a database file, for as long as this lives: until then no connection to it can be opened, by this
 /// program or by another.
 class SoleUse {
@@ -33,11 +37,10 @@ class Engine {
   /// How long a statement or an opening waits for another program that holds the file; two seconds unless set.
   void WaitForOthers(std::chrono::milliseconds patience);
 
-  struct State;
-  State& Internals() { return *state_; }
+  store::EngineState& Internals() { return *state_; }
 
  private:
-  std::unique_ptr<State> state_;
+  std::unique_ptr<store::EngineState> state_;
 };
 
 }  // namespace norvane

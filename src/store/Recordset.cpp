@@ -50,32 +50,32 @@ struct Recordset::State_ {
   std::vector<ResultColumn> appended;
   bool fabricated = false;
 
-  std::shared_ptr<Rows> rows;                      ///< shared with clones; nothing while closed
-  std::shared_ptr<const Translation> translation;  ///< where the rows came from
-  std::vector<std::uint32_t> places;               ///< the rows in their order; empty while that is the rows' own
+  std::shared_ptr<store::Rows> rows;                      ///< shared with clones; nothing while closed
+  std::shared_ptr<const store::Translation> translation;  ///< where the rows came from
+  std::vector<std::uint32_t> places;  ///< the rows in their order; empty while that is the rows' own
   std::size_t position = 0;
 
   /// What was set since AddNew or since the move to this row, by column.
   std::vector<std::optional<Value>> edits;
   bool adding = false;
 
-  Rows& Opened() {
-    if (!rows) throw store_error::ObjectClosed();
+  store::Rows& Opened() {
+    if (!rows) throw store::error::ObjectClosed();
     return *rows;
   }
-  const Rows& Opened() const { return const_cast<State_*>(this)->Opened(); }
+  const store::Rows& Opened() const { return const_cast<State_*>(this)->Opened(); }
 
   std::size_t Count() const { return places.empty() ? Opened().Count() : places.size(); }
 
   /// The current row's number. Raises 3021 without one.
   std::size_t Row() const {
-    if (position >= Count()) throw store_error::NoCurrentRecord();
+    if (position >= Count()) throw store::error::NoCurrentRecord();
     return places.empty() ? position : places[position];
   }
 
   int ColumnOf(std::string_view name) const {
     const int column = Opened().Find(name);
-    if (column < 0) throw store_error::ItemNotFound();
+    if (column < 0) throw store::error::ItemNotFound();
     return column;
   }
 
@@ -85,7 +85,7 @@ struct Recordset::State_ {
     adding = false;
   }
 
-  void Begin(std::shared_ptr<Rows> newRows) {
+  void Begin(std::shared_ptr<store::Rows> newRows) {
     rows = std::move(newRows);
     places.clear();
     MoveTo(0);
@@ -111,8 +111,8 @@ struct Recordset::State_ {
 
   bool IsTableBacked() const { return connection && !fabricated && lock != LockType::ReadOnly; }
 
-  std::vector<Connection::Session::Cell> EditedCells() const {
-    std::vector<Connection::Session::Cell> cells;
+  std::vector<store::Session::Cell> EditedCells() const {
+    std::vector<store::Session::Cell> cells;
     for (std::size_t i = 0; i < edits.size(); ++i) {
       if (edits[i]) cells.push_back({translation->tableColumns[i], *edits[i]});
     }
@@ -120,13 +120,13 @@ struct Recordset::State_ {
   }
 
   void WriteToTable() const {
-    if (translation->table.empty()) throw store_error::NotUpdatable();
+    if (translation->table.empty()) throw store::error::NotUpdatable();
     if (adding) return connection->Use().InsertRow(translation->table, EditedCells());
-    std::vector<Connection::Session::Cell> key;
+    std::vector<store::Session::Cell> key;
     for (const std::size_t column : translation->key) {
       key.push_back({translation->tableColumns[column], rows->Get(Row(), static_cast<int>(column))});
     }
-    if (key.empty()) throw store_error::NotUpdatable();
+    if (key.empty()) throw store::error::NotUpdatable();
     connection->Use().UpdateRow(translation->table, EditedCells(), key);
   }
 
@@ -146,19 +146,19 @@ void Recordset::SetActiveConnection(Connection* connection) {
 
 void Recordset::Open(std::string_view source, Connection& connection, norvane::CursorType cursorType,
                      LockType lockType) {
-  if (state_->rows) throw store_error::ObjectOpen();
+  if (state_->rows) throw store::error::ObjectOpen();
   CursorType = cursorType;
   state_->connection = &connection;
   state_->lock = lockType;
   state_->fabricated = false;
-  Connection::Session::Outcome outcome = connection.Use().Run(source);
+  store::Session::Outcome outcome = connection.Use().Run(source);
   state_->translation = std::move(outcome.translation);
   if (outcome.rows) state_->Begin(std::move(outcome.rows));
 }
 
 void Recordset::Open() {
-  if (state_->rows) throw store_error::ObjectOpen();
-  if (!state_->connection) throw store_error::ConnectionInvalid();
+  if (state_->rows) throw store::error::ObjectOpen();
+  if (!state_->connection) throw store::error::ConnectionInvalid();
   Open(Source, *state_->connection, CursorType, LockType::ReadOnly);
 }
 
@@ -180,12 +180,12 @@ std::int32_t Recordset::RecordCount() const {
 }
 
 void Recordset::MoveFirst() {
-  if (state_->Count() == 0) throw store_error::NoCurrentRecord();
+  if (state_->Count() == 0) throw store::error::NoCurrentRecord();
   state_->MoveTo(0);
 }
 
 void Recordset::MoveNext() {
-  if (Eof()) throw store_error::NoCurrentRecord();
+  if (Eof()) throw store::error::NoCurrentRecord();
   state_->MoveTo(state_->position + 1);
 }
 
@@ -208,7 +208,7 @@ void Recordset::Sort(std::string_view order) {
     places.resize(state_->Opened().Count());
     std::iota(places.begin(), places.end(), 0U);
   }
-  SortRows(*state_->rows, order, places);
+  store::SortRows(*state_->rows, order, places);
   state_->places = std::move(places);
   state_->MoveTo(0);
 }
@@ -218,12 +218,12 @@ int Recordset::FieldCount() const {
 }
 
 std::string Recordset::FieldName(int index) const {
-  if (index < 0 || index >= FieldCount()) throw store_error::ItemNotFound();
+  if (index < 0 || index >= FieldCount()) throw store::error::ItemNotFound();
   return state_->rows->Columns()[index].name;
 }
 
 FieldType Recordset::FieldTypeOf(int index) const {
-  if (index < 0 || index >= FieldCount()) throw store_error::ItemNotFound();
+  if (index < 0 || index >= FieldCount()) throw store::error::ItemNotFound();
   return state_->rows->Columns()[index].type;
 }
 
@@ -232,7 +232,7 @@ Value Recordset::Field(std::string_view name) const {
 }
 
 Value Recordset::Field(int index) const {
-  if (index < 0 || index >= FieldCount()) throw store_error::ItemNotFound();
+  if (index < 0 || index >= FieldCount()) throw store::error::ItemNotFound();
   return state_->Read(index);
 }
 
@@ -267,14 +267,14 @@ bool Recordset::Boolean(std::string_view name) const {
 }
 
 void Recordset::AppendField(std::string_view name, FieldType type, int size) {
-  if (state_->rows) throw store_error::ObjectOpen();
+  if (state_->rows) throw store::error::ObjectOpen();
   state_->appended.push_back({std::string(name), type, size});
 }
 
 void Recordset::OpenFabricated() {
-  if (state_->rows) throw store_error::ObjectOpen();
+  if (state_->rows) throw store::error::ObjectOpen();
   state_->fabricated = true;
-  state_->Begin(std::make_shared<Rows>(state_->appended));
+  state_->Begin(std::make_shared<store::Rows>(state_->appended));
 }
 
 void Recordset::AddNew() {
@@ -288,10 +288,10 @@ void Recordset::SetField(std::string_view name, const Value& value) {
   if (!state_->adding) state_->Row();
   const ResultColumn& field = state_->rows->Columns()[column];
   Value converted = ConvertedTo(field.type, value);
-  if (state_->fabricated && norvane::IsNull(converted)) throw store_error::MultipleStep();
+  if (state_->fabricated && norvane::IsNull(converted)) throw store::error::MultipleStep();
   const auto* text = std::get_if<std::string>(&converted);
   if (text && field.size > 0 && CharacterCount(*text) > static_cast<std::size_t>(field.size)) {
-    throw store_error::MultipleStep();
+    throw store::error::MultipleStep();
   }
   if (state_->edits.empty()) state_->edits.resize(FieldCount());
   state_->edits[column] = std::move(converted);

@@ -161,8 +161,8 @@ TEST_F(FileTest, RollsBackWhatACrashLeft) {
 }
 
 TEST_F(FileTest, TellsAFullDiskApart) {
-  EXPECT_EQ(norvane::ErrorOf(SQLITE_FULL, "f").Number(), 61);
-  EXPECT_EQ(norvane::ErrorOf(SQLITE_IOERR_READ, "f").Text(), "Disk or network error.");
+  EXPECT_EQ(store::ErrorOf(SQLITE_FULL, "f").Number(), 61);
+  EXPECT_EQ(store::ErrorOf(SQLITE_IOERR_READ, "f").Text(), "Disk or network error.");
 }
 
 TEST_F(FileTest, LearnsTheTablesAnewWhenTheyChange) {

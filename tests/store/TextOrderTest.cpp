@@ -26,9 +26,10 @@ TEST(TextFolding, EqualsInCaseAlone) {
 TEST(TextFolding, MatchesPatterns) {
   for (const auto& [text, pattern] :
        {std::pair{"Smith", "s%"}, {"Smith", "%I_h"}, {"Müller", "m_LL%"}, {"", "%"}, {"aXbXc", "a%x%c"}}) {
-    EXPECT_TRUE(MatchesPattern(text, pattern)) << pattern;
+    EXPECT_TRUE(store::MatchesPattern(text, pattern)) << pattern;
   }
-  for (const char* pattern : {"mith", "s%z", "smithson"}) EXPECT_FALSE(MatchesPattern("Smith", pattern)) << pattern;
+  for (const char* pattern : {"mith", "s%z", "smithson"})
+    EXPECT_FALSE(store::MatchesPattern("Smith", pattern)) << pattern;
 }
 
 TEST_F(StoreTest, ComparesAndSortsTextWithAccents) {

@@ -5,7 +5,7 @@
 #include "store/internal/StoreError.h"
 #include "store/internal/UnitedStates.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 void BindWhole(sqlite3_stmt* statement, int parameter, std::int64_t value) {
@@ -98,7 +98,7 @@ void BindLiterals(sqlite3_stmt* statement, const std::vector<Binding>& bindings,
       BindLiteral(statement, ++parameter, literals[binding.literal], binding);
     } catch (const RuntimeError& error) {
       if (error.Number() != static_cast<std::int32_t>(ErrorNumber::TypeMismatch)) throw;
-      throw store_error::TypeMismatchInCriteria();
+      throw error::TypeMismatchInCriteria();
     }
   }
 }
@@ -118,4 +118,4 @@ void BindValue(sqlite3_stmt* statement, int parameter, const Value& value) {
   std::visit(bind, value);
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -7,7 +7,7 @@
 #include "core/Trap.h"
 #include "store/internal/Sqlite.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 FieldType DeclaredType(std::string_view declaration) {
@@ -71,4 +71,4 @@ const TableSchema* Catalog::Find(std::string_view table) const {
   return nullptr;
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

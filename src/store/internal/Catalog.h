@@ -9,7 +9,7 @@
 
 struct sqlite3;
 
-namespace norvane {
+namespace norvane::store {
 
 /// A table or a saved query of the file.
 struct TableSchema {
@@ -41,4 +41,4 @@ class Catalog {
   std::vector<TableSchema> tables_;
 };
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -7,12 +7,11 @@
 #include <string>
 #include <unordered_map>
 
-#include "store/Engine.h"
 #include "store/internal/Catalog.h"
 #include "store/internal/FileLock.h"
 #include "store/internal/Translator.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// What one state of a file's schema says, and the statements translated against it.
 struct FileKnowledge {
@@ -25,22 +24,20 @@ struct FileKnowledge {
 struct KnownFile {
   std::shared_ptr<FileKnowledge> knowledge;  ///< nothing until a connection has been open
   int connections = 0;
-  store::FileLock lock;  ///< shared by all connections
+  FileLock lock;  ///< shared by all connections
   bool heldAlone = false;
 };
 
-struct Engine::State {
-  std::map<store::FileIdentity, KnownFile> files;
+struct EngineState {
+  std::map<FileIdentity, KnownFile> files;
   std::chrono::milliseconds patience{2000};
 };
-
-namespace store {
 
 /// A connection's part in the use of a file: counted, and seen by other instances of the program.
 class Participation {
  public:
   /// Raises -2147467259 if the file is held alone. `name` is what the error's text shows.
-  Participation(Engine::State& engine, const std::filesystem::path& file, const std::string& name);
+  Participation(EngineState& engine, const std::filesystem::path& file, const std::string& name);
   ~Participation();
   Participation(const Participation&) = delete;
   Participation& operator=(const Participation&) = delete;
@@ -51,6 +48,4 @@ class Participation {
   KnownFile& file_;
 };
 
-}  // namespace store
-
-}  // namespace norvane
+}  // namespace norvane::store

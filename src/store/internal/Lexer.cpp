@@ -5,7 +5,7 @@
 #include "store/internal/TextFolding.h"
 #include "store/internal/UnitedStates.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 bool IsBlank(char c) {
@@ -147,4 +147,4 @@ Lexed Lex(std::string_view statement) {
   return Scanner(statement).Run();
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

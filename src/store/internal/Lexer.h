@@ -7,7 +7,7 @@
 
 #include "core/Date.h"
 
-namespace norvane {
+namespace norvane::store {
 
 enum class TokenKind {
   Name,           ///< a bare word, keyword or not
@@ -46,4 +46,4 @@ struct Lexed {
 /// Never fails: what cannot be read becomes a token that no rule of the grammar takes.
 Lexed Lex(std::string_view statement);
 
-}  // namespace norvane
+}  // namespace norvane::store

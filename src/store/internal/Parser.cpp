@@ -6,7 +6,7 @@
 #include "core/Characters.h"
 #include "store/internal/StoreError.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 using namespace syntax;
@@ -31,10 +31,10 @@ class StatementParser {
   StatementParser(const Lexed& lexed, std::string_view statement) : tokens_(lexed.tokens), statement_(statement) {}
 
   Statement Run() {
-    if (Current().kind == TokenKind::End) throw store_error::NoStatement();
+    if (Current().kind == TokenKind::End) throw error::NoStatement();
     Statement result = ParseStatement();
-    if (TakeSymbol(";") && Current().kind != TokenKind::End) throw store_error::CharactersAfterEnd();
-    if (Current().kind != TokenKind::End) throw store_error::SyntaxErrorIn(clause_);
+    if (TakeSymbol(";") && Current().kind != TokenKind::End) throw error::CharactersAfterEnd();
+    if (Current().kind != TokenKind::End) throw error::SyntaxErrorIn(clause_);
     return result;
   }
 
@@ -64,17 +64,17 @@ class StatementParser {
     return taken;
   }
   void ExpectKeyword(std::string_view keyword) {
-    if (!TakeKeyword(keyword)) throw store_error::SyntaxErrorIn(clause_);
+    if (!TakeKeyword(keyword)) throw error::SyntaxErrorIn(clause_);
   }
   void ExpectSymbol(std::string_view symbol) {
-    if (!TakeSymbol(symbol)) throw store_error::SyntaxErrorIn(clause_);
+    if (!TakeSymbol(symbol)) throw error::SyntaxErrorIn(clause_);
   }
 
   bool AtName() const {
     return Current().kind == TokenKind::BracketedName || (Current().kind == TokenKind::Name && !IsKeyword(Current()));
   }
   std::string_view TakeName() {
-    if (!AtName()) throw store_error::SyntaxErrorIn(clause_);
+    if (!AtName()) throw error::SyntaxErrorIn(clause_);
     std::string_view name = Current().source;
     if (Current().kind == TokenKind::BracketedName) name = name.substr(1, name.size() - 2);
     Advance();
@@ -88,7 +88,7 @@ class StatementParser {
     if (TakeKeyword("insert")) return ParseInsert();
     if (TakeKeyword("delete")) return ParseDelete();
     if (TakeKeyword("update")) return ParseUpdate();
-    throw store_error::NotAStatement();
+    throw error::NotAStatement();
   }
 
   Select ParseSelect() {
@@ -213,7 +213,7 @@ class StatementParser {
     clause_ = clause;
     expressionStart_ = position_;
     ExpressionPtr expression = ParseOr();
-    if (StartsOperand()) throw store_error::MissingOperator(ExpressionText());
+    if (StartsOperand()) throw error::MissingOperator(ExpressionText());
     return expression;
   }
 
@@ -256,12 +256,12 @@ class StatementParser {
   }
 
   [[noreturn]] void FailInExpression() const {
-    if (clause_ == "INSERT INTO statement") throw store_error::SyntaxErrorIn(clause_);
-    throw store_error::MissingOperator(ExpressionText());
+    if (clause_ == "INSERT INTO statement") throw error::SyntaxErrorIn(clause_);
+    throw error::MissingOperator(ExpressionText());
   }
 
   void CountOperator() {
-    if (++operators_ > kMostOperators) throw store_error::TooComplex();
+    if (++operators_ > kMostOperators) throw error::TooComplex();
   }
 
   ExpressionPtr Make(std::size_t firstToken, decltype(Expression::node) node) const {
@@ -331,7 +331,7 @@ class StatementParser {
       case TokenKind::Date:
         return ParseConstant(false);
       case TokenKind::BadDate:
-        throw store_error::BadDate(ExpressionText());
+        throw error::BadDate(ExpressionText());
       case TokenKind::Symbol:
         return ParseSigned();
       default:
@@ -355,7 +355,7 @@ class StatementParser {
     if (TakeSymbol("(")) {
       CountOperator();
       ExpressionPtr inner = ParseOr();
-      if (StartsOperand() || !TakeSymbol(")")) throw store_error::MissingOperator(ExpressionText());
+      if (StartsOperand() || !TakeSymbol(")")) throw error::MissingOperator(ExpressionText());
       return Make(first, std::move(inner->node));
     }
     const bool negative = AtSymbol("-");
@@ -377,14 +377,14 @@ class StatementParser {
     Advance();
     CountOperator();
     ExpressionPtr argument = ParseOr();
-    if (!TakeSymbol(")")) throw store_error::MissingOperator(ExpressionText());
+    if (!TakeSymbol(")")) throw error::MissingOperator(ExpressionText());
     for (const auto& [spelling, function] : {std::pair{"val", FunctionName::Val},
                                              {"isnull", FunctionName::IsNull},
                                              {"sum", FunctionName::Sum},
                                              {"max", FunctionName::Max}}) {
       if (EqualNoCase(name, spelling)) return Make(first, Function{function, std::move(argument)});
     }
-    throw store_error::UndefinedFunction(name);
+    throw error::UndefinedFunction(name);
   }
 
   ExpressionPtr ParseColumn() {
@@ -412,4 +412,4 @@ Statement Parse(const Lexed& lexed, std::string_view statement) {
   return StatementParser(lexed, statement).Run();
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -7,7 +7,7 @@
 #include "store/internal/StoreError.h"
 #include "store/internal/TextFolding.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 /// One column to sort by, with the sort keys of its texts made once.
@@ -64,7 +64,7 @@ Criterion ReadCriterion(const Rows& rows, std::string_view text) {
   if (!descending) TakeLastWord(text, "asc");
   if (text.size() > 2 && text.front() == '[' && text.back() == ']') text = text.substr(1, text.size() - 2);
   const int column = rows.Find(text);
-  if (column < 0) throw store_error::ItemNotFound();
+  if (column < 0) throw error::ItemNotFound();
   return Criterion(rows, column, descending);
 }
 
@@ -86,4 +86,4 @@ void SortRows(const Rows& rows, std::string_view order, std::vector<std::uint32_
   });
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -6,10 +6,10 @@
 
 #include "store/internal/Rows.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// Sorts row numbers by "<column> [desc], ...": stable, text by its sort key, a Null before every value.
 /// Raises 3265 for an unknown column.
 void SortRows(const Rows& rows, std::string_view order, std::vector<std::uint32_t>& places);
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -7,7 +7,7 @@
 #include "core/Characters.h"
 #include "store/internal/Sqlite.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 static_assert(std::endian::native == std::endian::little, "a packed number lies as it does in memory");
@@ -180,4 +180,4 @@ std::int64_t Rows::Whole(std::size_t row, int column) const {
   return WholeOf(At(row, column));
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

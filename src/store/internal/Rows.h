@@ -11,7 +11,7 @@
 
 struct sqlite3_stmt;
 
-namespace norvane {
+namespace norvane::store {
 
 /// The rows of a result in memory, packed: lists stay in memory as long as the screens that show them.
 ///
@@ -55,4 +55,4 @@ class Rows {
   std::string bytes_;
 };
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -6,7 +6,7 @@
 #include "store/internal/SqlWriting.h"
 #include "store/internal/StoreError.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 bool Contains(const std::vector<ColumnReference>& columns, ColumnReference column) {
@@ -17,7 +17,7 @@ bool Contains(const std::vector<ColumnReference>& columns, ColumnReference colum
 
 void Scope::Add(const TableSchema& table) {
   if (std::find(tables_.begin(), tables_.end(), &table) != tables_.end()) {
-    throw store_error::SyntaxErrorIn("FROM clause");
+    throw error::SyntaxErrorIn("FROM clause");
   }
   tables_.push_back(&table);
 }
@@ -29,10 +29,10 @@ ColumnReference Scope::Resolve(const syntax::Name& name) const {
     if (!name.table.empty() && !EqualNoCase(tables_[table]->name, name.table)) continue;
     const int column = tables_[table]->Find(name.name);
     if (column < 0) continue;
-    if (found != none) throw store_error::AmbiguousName(name.name);
+    if (found != none) throw error::AmbiguousName(name.name);
     found = {table, static_cast<std::size_t>(column)};
   }
-  if (found == none) throw store_error::MissingParameter();
+  if (found == none) throw error::MissingParameter();
   return found;
 }
 
@@ -92,4 +92,4 @@ std::vector<ColumnReference> Scope::Independent(std::vector<ColumnReference> col
   return columns;
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

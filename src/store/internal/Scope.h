@@ -7,7 +7,7 @@
 #include "store/internal/Catalog.h"
 #include "store/internal/Syntax.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// A column of one of the tables that a statement names.
 struct ColumnReference {
@@ -47,4 +47,4 @@ class Scope {
   std::vector<std::pair<ColumnReference, ColumnReference>> equalities_;
 };
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -10,7 +10,7 @@
 #include "store/internal/SqlWriting.h"
 #include "store/internal/StoreError.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 constexpr std::size_t kMostPrepared = 64;
@@ -34,8 +34,8 @@ bool MayBeWritten(mode_t mode) {
 /// The file's mode. Raises the reason if it can't be a database.
 mode_t Checked(const std::filesystem::path& file, const std::string& name) {
   struct stat status {};
-  if (stat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) throw store_error::FileNotFound(name);
-  if (status.st_size == 0) throw store_error::UnrecognizedFormat(name);
+  if (stat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) throw error::FileNotFound(name);
+  if (status.st_size == 0) throw error::UnrecognizedFormat(name);
   return status.st_mode;
 }
 
@@ -45,7 +45,7 @@ DatabaseHandle OpenDatabase(const std::filesystem::path& file, mode_t mode, cons
   sqlite3* opened = nullptr;
   const int code = sqlite3_open_v2(file.c_str(), &opened, flags, nullptr);
   DatabaseHandle database(opened);
-  if (code != SQLITE_OK) throw store_error::FileInUse(name);
+  if (code != SQLITE_OK) throw error::FileInUse(name);
   sqlite3_busy_timeout(opened, static_cast<int>(patience.count()));
   return database;
 }
@@ -67,8 +67,7 @@ class Reset {
 
 }  // namespace
 
-Connection::Session::Session(Engine::State& engine, const std::filesystem::path& file)
-    : engine_(engine), name_(file.string()) {
+Session::Session(EngineState& engine, const std::filesystem::path& file) : engine_(engine), name_(file.string()) {
   const std::filesystem::path located = std::filesystem::absolute(Located(file));
   const mode_t mode = Checked(located, name_);
   folder_ = located.parent_path();
@@ -85,7 +84,7 @@ Connection::Session::Session(Engine::State& engine, const std::filesystem::path&
 
 // The folder is synchronised after the last journal is gone: one that comes back with a power cut would undo what was
 // saved. That this may fail where a folder can't be synchronised is no error of the save.
-Connection::Session::~Session() {
+Session::~Session() {
   const bool wrote = sqlite3_total_changes(database_.get()) > 0;
   prepared_.clear();
   database_.reset();
@@ -93,13 +92,13 @@ Connection::Session::~Session() {
 }
 
 /// The first thing read from the file, so it tells whether the file is one of ours and not held by anybody.
-std::int32_t Connection::Session::SchemaVersion() {
+std::int32_t Session::SchemaVersion() {
   const StatementHandle version = Prepare(database_.get(), "pragma schema_version", name_);
   Step(version.get(), name_);
   return sqlite3_column_int(version.get(), 0);
 }
 
-Connection::Session::Outcome Connection::Session::Run(std::string_view statement) {
+Session::Outcome Session::Run(std::string_view statement) {
   const Lexed lexed = Lex(statement);
   Outcome outcome{TranslationOf(lexed, statement), nullptr};
   const Translation& translation = *outcome.translation;
@@ -108,16 +107,16 @@ Connection::Session::Outcome Connection::Session::Run(std::string_view statement
   BindLiterals(prepared, translation.bindings, lexed.literals);
   if (translation.columns.empty()) {
     Step(prepared, name_);
-    if (translation.mustChange && sqlite3_changes(database_.get()) == 0) throw store_error::DuplicateKey();
+    if (translation.mustChange && sqlite3_changes(database_.get()) == 0) throw error::DuplicateKey();
     return outcome;
   }
-  outcome.rows = std::make_shared<norvane::Rows>(translation.columns);
+  outcome.rows = std::make_shared<Rows>(translation.columns);
   while (Step(prepared, name_)) outcome.rows->Read(prepared);
   outcome.rows->Trim();
   return outcome;
 }
 
-std::shared_ptr<const Translation> Connection::Session::TranslationOf(const Lexed& lexed, std::string_view statement) {
+std::shared_ptr<const Translation> Session::TranslationOf(const Lexed& lexed, std::string_view statement) {
   auto& translations = knowledge_->translations;
   if (const auto found = translations.find(lexed.shape); found != translations.end()) return found->second;
   const syntax::Statement tree = Parse(lexed, statement);
@@ -126,7 +125,7 @@ std::shared_ptr<const Translation> Connection::Session::TranslationOf(const Lexe
   return translations[lexed.shape] = std::move(translation);
 }
 
-sqlite3_stmt* Connection::Session::StatementOf(const std::shared_ptr<const Translation>& translation) {
+sqlite3_stmt* Session::StatementOf(const std::shared_ptr<const Translation>& translation) {
   if (const auto found = prepared_.find(translation.get()); found != prepared_.end()) {
     return found->second.statement.get();
   }
@@ -135,8 +134,7 @@ sqlite3_stmt* Connection::Session::StatementOf(const std::shared_ptr<const Trans
   return (prepared_[translation.get()] = {translation, std::move(statement)}).statement.get();
 }
 
-void Connection::Session::UpdateRow(const std::string& table, const std::vector<Cell>& cells,
-                                    const std::vector<Cell>& key) {
+void Session::UpdateRow(const std::string& table, const std::vector<Cell>& cells, const std::vector<Cell>& key) {
   std::string sql = Concat({"UPDATE ", QuotedName(table)});
   for (std::size_t i = 0; i < cells.size(); ++i) {
     sql += Concat({i == 0 ? " SET " : ", ", QuotedName(cells[i].column), " = ?"});
@@ -145,10 +143,10 @@ void Connection::Session::UpdateRow(const std::string& table, const std::vector<
     sql += Concat({i == 0 ? " WHERE " : " AND ", QuotedName(key[i].column), " = ?"});
   }
   RunWithValues(sql, cells, key);
-  if (sqlite3_changes(database_.get()) == 0) throw store_error::RowIsGone();
+  if (sqlite3_changes(database_.get()) == 0) throw error::RowIsGone();
 }
 
-void Connection::Session::InsertRow(const std::string& table, const std::vector<Cell>& cells) {
+void Session::InsertRow(const std::string& table, const std::vector<Cell>& cells) {
   std::string columns;
   std::string values;
   for (const Cell& cell : cells) {
@@ -158,8 +156,7 @@ void Connection::Session::InsertRow(const std::string& table, const std::vector<
   RunWithValues(Concat({"INSERT INTO ", QuotedName(table), " (", columns, ") VALUES (", values, ")"}), cells, {});
 }
 
-void Connection::Session::RunWithValues(const std::string& sql, const std::vector<Cell>& first,
-                                        const std::vector<Cell>& second) {
+void Session::RunWithValues(const std::string& sql, const std::vector<Cell>& first, const std::vector<Cell>& second) {
   const StatementHandle statement = Prepare(database_.get(), sql, name_);
   int parameter = 0;
   for (const Cell& cell : first) BindValue(statement.get(), ++parameter, cell.value);
@@ -167,4 +164,4 @@ void Connection::Session::RunWithValues(const std::string& sql, const std::vecto
   Step(statement.get(), name_);
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

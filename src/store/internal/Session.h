@@ -8,26 +8,25 @@
 #include <unordered_map>
 
 #include "core/Value.h"
-#include "store/Connection.h"
 #include "store/internal/EngineState.h"
 #include "store/internal/Rows.h"
 #include "store/internal/Sqlite.h"
 #include "store/internal/Translator.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// One open file: its handle and the statements prepared on it so far.
-struct Connection::Session {
+class Session {
  public:
   /// Raises -2147467259 with the reason if the file is missing, locked or no database. Never makes a file.
-  Session(Engine::State& engine, const std::filesystem::path& file);
+  Session(EngineState& engine, const std::filesystem::path& file);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
   struct Outcome {
     std::shared_ptr<const Translation> translation;
-    std::shared_ptr<norvane::Rows> rows;  ///< nothing if the statement changed rows
+    std::shared_ptr<Rows> rows;  ///< nothing if the statement changed rows
   };
   /// Runs one statement of the store's dialect.
   Outcome Run(std::string_view statement);
@@ -46,10 +45,10 @@ struct Connection::Session {
   void RunWithValues(const std::string& sql, const std::vector<Cell>& first, const std::vector<Cell>& second);
   std::int32_t SchemaVersion();
 
-  Engine::State& engine_;
+  EngineState& engine_;
   std::string name_;  ///< as the texts of errors show it
   std::filesystem::path folder_;
-  std::optional<store::Participation> participation_;  ///< ends after the database is closed
+  std::optional<Participation> participation_;  ///< ends after the database is closed
   DatabaseHandle database_;
   std::shared_ptr<FileKnowledge> knowledge_;
   struct Prepared {
@@ -59,4 +58,4 @@ struct Connection::Session {
   std::unordered_map<const Translation*, Prepared> prepared_;
 };
 
-}  // namespace norvane
+}  // namespace norvane::store

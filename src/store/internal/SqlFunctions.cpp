@@ -7,7 +7,7 @@
 #include "store/internal/TextFolding.h"
 #include "store/internal/UnitedStates.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 std::string_view TextOf(sqlite3_value* value) {
@@ -75,4 +75,4 @@ void AddSqlFunctions(sqlite3* database) {
   sqlite3_create_function(database, kTextFunction, 2, kFlags, nullptr, DefaultText, nullptr, nullptr);
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

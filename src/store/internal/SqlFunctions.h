@@ -2,7 +2,7 @@
 
 struct sqlite3;
 
-namespace norvane {
+namespace norvane::store {
 
 // What the translator writes and SQLite does not know by itself.
 
@@ -18,4 +18,4 @@ inline constexpr const char* kTextFunction = "norvane_text";
 /// Makes them known to an open database.
 void AddSqlFunctions(sqlite3* database);
 
-}  // namespace norvane
+}  // namespace norvane::store

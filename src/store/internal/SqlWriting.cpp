@@ -1,6 +1,6 @@
 #include "store/internal/SqlWriting.h"
 
-namespace norvane {
+namespace norvane::store {
 
 std::string Concat(std::initializer_list<std::string_view> parts) {
   std::string text;
@@ -15,4 +15,4 @@ std::string QuotedName(std::string_view name) {
   return quoted;
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvane {
+namespace norvane::store {
 
 /// The parts one behind the other.
 std::string Concat(std::initializer_list<std::string_view> parts);
@@ -12,4 +12,4 @@ std::string Concat(std::initializer_list<std::string_view> parts);
 /// A name between double quotes, those inside it doubled.
 std::string QuotedName(std::string_view name);
 
-}  // namespace norvane
+}  // namespace norvane::store

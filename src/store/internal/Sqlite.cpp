@@ -2,31 +2,31 @@
 
 #include "store/internal/StoreError.h"
 
-namespace norvane {
+namespace norvane::store {
 
 RuntimeError ErrorOf(int code, const std::string& file) {
-  if (code == SQLITE_CONSTRAINT_NOTNULL) return store_error::NullKey();
+  if (code == SQLITE_CONSTRAINT_NOTNULL) return error::NullKey();
   switch (code & 0xFF) {
     case SQLITE_CONSTRAINT:
-      return store_error::DuplicateKey();
+      return error::DuplicateKey();
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      return store_error::FileInUse(file);
+      return error::FileInUse(file);
     case SQLITE_READONLY:
     case SQLITE_PERM:
     case SQLITE_CANTOPEN:
-      return store_error::ReadOnly();
+      return error::ReadOnly();
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-      return store_error::UnrecognizedFormat(file);
+      return error::UnrecognizedFormat(file);
     case SQLITE_FULL:
       return RuntimeError(ErrorNumber::DiskFull);
     case SQLITE_IOERR:
-      return store_error::DiskOrNetwork();
+      return error::DiskOrNetwork();
     case SQLITE_ERROR:
-      return store_error::IncompleteClause();
+      return error::IncompleteClause();
     default:
-      return store_error::TooComplex();
+      return error::TooComplex();
   }
 }
 
@@ -37,7 +37,7 @@ bool IsTooDeep(sqlite3* database) {
 StatementHandle Prepare(sqlite3* database, const std::string& sql, const std::string& file) {
   sqlite3_stmt* statement = nullptr;
   const int code = sqlite3_prepare_v2(database, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement, nullptr);
-  if (code != SQLITE_OK && IsTooDeep(database)) throw store_error::TooComplex();
+  if (code != SQLITE_OK && IsTooDeep(database)) throw error::TooComplex();
   if (code != SQLITE_OK) throw ErrorOf(sqlite3_extended_errcode(database), file);
   return StatementHandle(statement);
 }
@@ -57,4 +57,4 @@ std::string_view ColumnText(sqlite3_stmt* statement, int column) {
               : std::string_view();
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -7,7 +7,7 @@
 
 #include "core/RuntimeError.h"
 
-namespace norvane {
+namespace norvane::store {
 
 struct CloseDatabase {
   void operator()(sqlite3* database) const { sqlite3_close(database); }
@@ -31,4 +31,4 @@ bool Step(sqlite3_stmt* statement, const std::string& file);
 /// Valid until the next step.
 std::string_view ColumnText(sqlite3_stmt* statement, int column);
 
-}  // namespace norvane
+}  // namespace norvane::store

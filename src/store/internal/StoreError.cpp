@@ -2,7 +2,7 @@
 
 #include "store/internal/SqlWriting.h"
 
-namespace norvane::store_error {
+namespace norvane::store::error {
 namespace {
 
 RuntimeError Make(StoreErrorNumber number, const std::string& text) {
@@ -168,4 +168,4 @@ RuntimeError NoServer() {
   return Make(StoreErrorNumber::Refused, "No database server is configured on this machine.");
 }
 
-}  // namespace norvane::store_error
+}  // namespace norvane::store::error

@@ -6,7 +6,7 @@
 
 #include "core/RuntimeError.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// The store's error numbers. One number stands for several texts.
 enum class StoreErrorNumber : std::int32_t {
@@ -25,7 +25,7 @@ enum class StoreErrorNumber : std::int32_t {
   Refused = -2147467259,
 };
 
-namespace store_error {
+namespace error {
 
 // One function per text.
 
@@ -68,5 +68,5 @@ RuntimeError UnrecognizedFormat(std::string_view file);
 RuntimeError DiskOrNetwork();
 RuntimeError NoServer();
 
-}  // namespace store_error
-}  // namespace norvane
+}  // namespace error
+}  // namespace norvane::store

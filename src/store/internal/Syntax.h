@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-namespace norvane::syntax {
+namespace norvane::store::syntax {
 
 struct Name {
   std::string_view table;  ///< empty if the name is not qualified
@@ -94,4 +94,4 @@ struct Update {
 
 using Statement = std::variant<Select, Insert, Delete, Update>;
 
-}  // namespace norvane::syntax
+}  // namespace norvane::store::syntax

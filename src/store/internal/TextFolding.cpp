@@ -5,7 +5,7 @@
 
 #include "core/Characters.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 /// The plain letter of each accented one, by blocks of Latin letters. '.' stands for none, a digit for the two letters
@@ -191,4 +191,4 @@ bool MatchesPattern(std::string_view text, std::string_view pattern) {
   return wanted.find_first_not_of(U'%', next) == std::u32string::npos;
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvane {
+namespace norvane::store {
 
 bool IsAscii(std::string_view text);
 
@@ -17,4 +17,4 @@ void FoldKey(std::string_view text, std::string& key);
 /// The store's `like`: % for any text, _ for one character, without regard to case.
 bool MatchesPattern(std::string_view text, std::string_view pattern);
 
-}  // namespace norvane
+}  // namespace norvane::store

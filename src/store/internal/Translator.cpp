@@ -9,7 +9,7 @@
 #include "store/internal/StoreError.h"
 #include "store/internal/Typer.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 using namespace syntax;
@@ -34,13 +34,13 @@ class StatementTranslator {
 
   const TableSchema& Find(const Table& table) const {
     const TableSchema* schema = catalog_.Find(table.name);
-    if (!schema) throw store_error::UnknownTable(table.name);
+    if (!schema) throw error::UnknownTable(table.name);
     return *schema;
   }
 
   const TableSchema& FindToChange(const Table& table) {
     const TableSchema& schema = Find(table);
-    if (schema.isQuery) throw store_error::NotUpdatable();
+    if (schema.isQuery) throw error::NotUpdatable();
     scope_.Add(schema);
     return schema;
   }
@@ -48,8 +48,8 @@ class StatementTranslator {
   /// A column that the statement has not named before.
   const TableSchema::Column& ColumnToChange(const TableSchema& table, std::string_view name) {
     const int column = table.Find(name);
-    if (column < 0) throw store_error::MissingParameter();
-    if (!changed_.insert(column).second) throw store_error::DuplicateDestination(name);
+    if (column < 0) throw error::MissingParameter();
+    if (!changed_.insert(column).second) throw error::DuplicateDestination(name);
     return table.columns[column];
   }
 
@@ -109,7 +109,7 @@ class StatementTranslator {
 
   ColumnReference GroupColumn(const Expression& expression) const {
     const auto* name = std::get_if<Name>(&expression.node);
-    if (!name) throw store_error::SyntaxErrorIn("GROUP BY clause");
+    if (!name) throw error::SyntaxErrorIn("GROUP BY clause");
     return scope_.Resolve(*name);
   }
 
@@ -126,7 +126,7 @@ class StatementTranslator {
   }
 
   void AppendAllColumns() {
-    if (grouped_) throw store_error::NotInAggregate("*");
+    if (grouped_) throw error::NotInAggregate("*");
     for (std::size_t table = 0; table < scope_.Tables().size(); ++table) {
       for (std::size_t column = 0; column < scope_.Tables()[table]->columns.size(); ++column) {
         const ColumnReference reference{table, column};
@@ -148,7 +148,7 @@ class StatementTranslator {
   }
 
   void AppendColumn(const std::string& sql, ResultColumn column, const std::string& tableColumn) {
-    if (result_.columns.size() == kMostFields) throw store_error::TooManyFields();
+    if (result_.columns.size() == kMostFields) throw error::TooManyFields();
     Append({result_.columns.empty() ? "" : ", ", sql});
     result_.columns.push_back(std::move(column));
     result_.tableColumns.push_back(tableColumn);
@@ -160,7 +160,7 @@ class StatementTranslator {
     if (const auto* name = std::get_if<Name>(&expression.node)) {
       const ColumnReference column = scope_.Resolve(*name);
       if (std::find(groupColumns_.begin(), groupColumns_.end(), column) == groupColumns_.end()) {
-        throw store_error::NotInAggregate(expression.source);
+        throw error::NotInAggregate(expression.source);
       }
     } else if (const auto* binary = std::get_if<Binary>(&expression.node)) {
       CheckGrouping(*binary->left);
@@ -183,7 +183,7 @@ class StatementTranslator {
       lead = " AND ";
     }
     if (!select.having) return;
-    if (select.groupBy.empty()) throw store_error::SyntaxErrorIn("HAVING clause");
+    if (select.groupBy.empty()) throw error::SyntaxErrorIn("HAVING clause");
     CheckGrouping(*select.having);
     if (HasAggregate(*select.having)) return;
     Append({lead, typer_.Condition(*select.having)});
@@ -211,7 +211,7 @@ class StatementTranslator {
     typer_.AllowAggregates(grouped_);
     for (const OrderItem& item : select.orderBy) {
       CheckGrouping(*item.expression);
-      if (IsConstant(*item.expression)) throw store_error::SyntaxErrorIn("ORDER BY clause");
+      if (IsConstant(*item.expression)) throw error::SyntaxErrorIn("ORDER BY clause");
       const Typed typed = typer_.Result(*item.expression);
       plain.push_back(typed.sql);
       terms.push_back(Concat({Sortable(typed.sql, typed.type), item.descending ? " DESC" : ""}));
@@ -250,11 +250,11 @@ class StatementTranslator {
 
   void Translate(const Insert& insert) {
     const TableSchema& table = Find(insert.table);
-    if (table.isQuery) throw store_error::NotUpdatable();
+    if (table.isQuery) throw error::NotUpdatable();
     std::string columns;
     std::string values;
     std::vector<std::string> stored(table.columns.size(), "NULL");
-    if (insert.columns.size() != insert.values.size()) throw store_error::ValueCountDiffers();
+    if (insert.columns.size() != insert.values.size()) throw error::ValueCountDiffers();
     for (std::size_t i = 0; i < insert.columns.size(); ++i) {
       const TableSchema::Column& column = ColumnToChange(table, insert.columns[i]);
       const std::string value = typer_.Stored(*insert.values[i], column.type);
@@ -263,7 +263,7 @@ class StatementTranslator {
       stored[&column - table.columns.data()] = value;
     }
     for (const std::size_t column : table.key) {
-      if (stored[column] == "NULL") throw store_error::NullKey();
+      if (stored[column] == "NULL") throw error::NullKey();
     }
     Append({"INSERT INTO ", QuotedName(table.name), " (", columns, ") SELECT ", values});
     if (table.HasTextKey()) AppendKeyGuard(table, stored);
@@ -319,4 +319,4 @@ Translation Translate(const Statement& statement, const Lexed& lexed, const Cata
   return StatementTranslator(lexed, catalog).Run(statement);
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

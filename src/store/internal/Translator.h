@@ -7,7 +7,7 @@
 #include "store/internal/Lexer.h"
 #include "store/internal/Syntax.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// How a literal goes into its parameter.
 enum class BindAs {
@@ -47,4 +47,4 @@ struct Translation {
 /// do not meet, -2147217900 for what makes no statement.
 Translation Translate(const syntax::Statement& statement, const Lexed& lexed, const Catalog& catalog);
 
-}  // namespace norvane
+}  // namespace norvane::store

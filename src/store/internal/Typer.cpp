@@ -5,7 +5,7 @@
 #include "store/internal/StoreError.h"
 #include "store/internal/TextFolding.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 using namespace syntax;
@@ -95,7 +95,7 @@ bool HasAggregate(const Expression& expression) {
 
 std::string Typer::Condition(const Expression& expression) {
   const Typed typed = Translate(expression);
-  if (IsText(typed)) throw store_error::TypeMismatchInCriteria();
+  if (IsText(typed)) throw error::TypeMismatchInCriteria();
   return Plain(typed);
 }
 
@@ -110,7 +110,7 @@ std::string Typer::Stored(const Expression& expression, FieldType column) {
   const Typed typed = Translate(expression);
   if (typed.kind == Typed::Kind::Literal) return Bind(typed.literal, BindingFor(column));
   if (typed.kind == Typed::Kind::Null || typed.type == column) return typed.sql;
-  if (typed.type != FieldType::Boolean) throw store_error::TypeMismatchInCriteria();
+  if (typed.type != FieldType::Boolean) throw error::TypeMismatchInCriteria();
   if (column == FieldType::Currency) return Parenthesised(typed.sql, " * ", "10000");
   return typed.sql;
 }
@@ -152,7 +152,7 @@ Typed Typer::Compare(std::string_view op, const Typed& left, const Typed& right)
     const std::string leftSql = Plain(left);
     return Sql(Parenthesised(leftSql, op, Plain(right)), FieldType::Boolean);
   }
-  if (IsText(left) != IsText(right)) throw store_error::TypeMismatchInCriteria();
+  if (IsText(left) != IsText(right)) throw error::TypeMismatchInCriteria();
   return Sql(IsText(left) ? CompareTexts(op, left, right) : CompareNumbers(op, left, right), FieldType::Boolean);
 }
 
@@ -192,12 +192,12 @@ Typed Typer::TranslateFunction(const Expression& expression, const Function& fun
 }
 
 Typed Typer::Aggregate(const Expression& expression, const Function& function) {
-  if (!aggregatesAllowed_) throw store_error::AggregateNotAllowed(expression.source);
+  if (!aggregatesAllowed_) throw error::AggregateNotAllowed(expression.source);
   aggregatesAllowed_ = false;
   Typed argument = Translate(*function.argument);
   aggregatesAllowed_ = true;
   const bool sum = function.name == FunctionName::Sum;
-  if (sum && IsText(argument)) throw store_error::TypeMismatchInCriteria();
+  if (sum && IsText(argument)) throw error::TypeMismatchInCriteria();
   return Sql(Concat({sum ? "sum(" : "max(", Plain(argument), ")"}), sum ? TypeOfSum(argument.type) : argument.type);
 }
 
@@ -229,4 +229,4 @@ bool Typer::IsAsciiLiteral(const Typed& typed) const {
   return typed.kind == Typed::Kind::Literal && IsAscii(literals_[typed.literal.literal].text);
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

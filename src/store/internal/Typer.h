@@ -7,7 +7,7 @@
 #include "store/internal/Scope.h"
 #include "store/internal/Translator.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// An expression in SQLite's dialect with the type of what it gives.
 struct Typed {
@@ -63,4 +63,4 @@ std::string FoldedSql(const std::string& sql);
 /// Whether sum or max stands in the expression.
 bool HasAggregate(const syntax::Expression& expression);
 
-}  // namespace norvane
+}  // namespace norvane::store

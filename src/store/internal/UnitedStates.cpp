@@ -1,6 +1,6 @@
 #include "store/internal/UnitedStates.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 /// Only a date without a year asks for the clock, and the program writes none.
@@ -17,4 +17,4 @@ const Conversions& UnitedStates() {
   return conversions;
 }
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -2,9 +2,9 @@
 
 #include "core/Conversions.h"
 
-namespace norvane {
+namespace norvane::store {
 
 /// The conversions under United States settings, which are the store's own whatever the machine's.
 const Conversions& UnitedStates();
 
-}  // namespace norvane
+}  // namespace norvane::store

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "Check.h"
-#include "core/ProfileText.h"
+#include "core/IniText.h"
 
 namespace {
 
@@ -36,14 +36,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view section = TakeLine(content);
   const std::string_view key = TakeLine(content);
   const std::string_view value = TakeLine(content);
-  const std::optional<std::string_view> before = norvane::ProfileValue(content, section, key);
-  const std::optional<std::string> changed = norvane::WithProfileValue(content, section, key, value);
+  const std::optional<std::string_view> before = norvane::IniValue(content, section, key);
+  const std::optional<std::string> changed = norvane::WithIniValue(content, section, key, value);
   if (!changed) return 0;
 
   const std::string_view removed = Removed(content, *changed);
   Check(before ? removed.find('\n') == std::string_view::npos : removed.empty());
   const std::string written = "[s]\nk=" + std::string(value);
-  Check(norvane::ProfileValue(*changed, section, key) == norvane::ProfileValue(written, "s", "k"));
-  Check(norvane::WithProfileValue(*changed, section, key, value) == changed);
+  Check(norvane::IniValue(*changed, section, key) == norvane::IniValue(written, "s", "k"));
+  Check(norvane::WithIniValue(*changed, section, key, value) == changed);
   return 0;
 }

@@ -19,7 +19,7 @@ bool StartsWithNoCase(std::string_view text, std::string_view start) {
   return !start.empty() && EqualNoCase(text.substr(0, start.size()), start);
 }
 
-std::size_t BlankLength(std::string_view text) {
+std::size_t WhitespaceLength(std::string_view text) {
   if (text.empty()) return 0;
   if (text[0] == ' ' || text[0] == '\t') return 1;
   if (text.starts_with("\u00A0")) return 2;
@@ -27,8 +27,8 @@ std::size_t BlankLength(std::string_view text) {
   return text.starts_with("\u202F") || text.starts_with("\u2009") ? 3 : 0;
 }
 
-void SkipBlanks(std::string_view& text) {
-  while (const std::size_t length = BlankLength(text)) text.remove_prefix(length);
+void SkipWhitespace(std::string_view& text) {
+  while (const std::size_t length = WhitespaceLength(text)) text.remove_prefix(length);
 }
 
 bool Take(std::string_view& text, std::string_view start) {

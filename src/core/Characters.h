@@ -26,8 +26,8 @@ bool StartsWithNoCase(std::string_view text, std::string_view start);
 
 /// The bytes of the blank that `text` begins with: a blank, a tab or one of the fixed blanks that stand between
 /// digits. 0 if there is none.
-std::size_t BlankLength(std::string_view text);
-void SkipBlanks(std::string_view& text);
+std::size_t WhitespaceLength(std::string_view text);
+void SkipWhitespace(std::string_view& text);
 /// Cuts `start` off the text if it stands there; an empty one never does.
 bool Take(std::string_view& text, std::string_view start);
 

@@ -47,7 +47,7 @@ class DateReader {
       : rest_(text), settings_(settings), clock_(clock) {}
 
   std::optional<Date> Read() {
-    SkipBlanks(rest_);
+    SkipWhitespace(rest_);
     while (!rest_.empty()) {
       if (!ReadPart() || !SkipSeparator()) return std::nullopt;
     }
@@ -59,9 +59,9 @@ class DateReader {
 
   /// One mark between two parts, blanks around it. Behind the last part none may stand.
   bool SkipSeparator() {
-    SkipBlanks(rest_);
+    SkipWhitespace(rest_);
     if (!TakeSeparator()) return true;
-    SkipBlanks(rest_);
+    SkipWhitespace(rest_);
     return !rest_.empty();
   }
 
@@ -81,7 +81,7 @@ class DateReader {
   bool ReadNumberOrTime() {
     const int number = ReadNumber();
     const std::string_view behind = rest_;
-    SkipBlanks(rest_);
+    SkipWhitespace(rest_);
     if (rest_.starts_with(':')) return ReadTime(number);
     if (ReadHalfOfDay()) return SetTime(number, 0, 0);
     rest_ = behind;
@@ -95,7 +95,7 @@ class DateReader {
     int second = 0;
     if (!ReadColonNumber(minute)) return false;
     if (rest_.starts_with(':') && !ReadColonNumber(second)) return false;
-    SkipBlanks(rest_);
+    SkipWhitespace(rest_);
     ReadHalfOfDay();
     return SetTime(hour, minute, second);
   }

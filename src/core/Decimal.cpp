@@ -55,8 +55,8 @@ std::string WholeDigits(const Decimal& decimal, std::string_view separator) {
 
 bool TakeThousandsSeparator(std::string_view& text, std::string_view separator) {
   // People type an ordinary blank where the locale writes a fixed one.
-  if (BlankLength(separator) == 0) return Take(text, separator);
-  const std::size_t length = BlankLength(text);
+  if (WhitespaceLength(separator) == 0) return Take(text, separator);
+  const std::size_t length = WhitespaceLength(text);
   text.remove_prefix(length);
   return length > 0;
 }

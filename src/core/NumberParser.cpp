@@ -42,12 +42,12 @@ std::optional<Decimal> ParseNumber(std::string_view text, const RegionalSettings
   const std::string_view symbol = settings.currencySymbol;
   Surroundings around;
   do {
-    SkipBlanks(text);
+    SkipWhitespace(text);
   } while (around.TakeSymbol(text, symbol) || around.TakeSign(text) || around.Open(text));
   std::optional<Decimal> number = ScanDecimal(text, marks);
   if (!number) return std::nullopt;
   do {
-    SkipBlanks(text);
+    SkipWhitespace(text);
   } while (around.TakeSymbol(text, symbol) || around.TakeSign(text) || around.Close(text));
   if (!text.empty() || around.opened != around.closed) return std::nullopt;
   number->negative = (around.minus || around.opened) && !number->digits.empty();

@@ -72,7 +72,7 @@ std::optional<std::string> ReadWholeFile(const fs::path& file) {
   return content;
 }
 
-bool ReplaceWholeFile(const fs::path& file, std::string_view content) {
+bool WriteFileAtomically(const fs::path& file, std::string_view content) {
   std::error_code error;
   const fs::path resolved = fs::canonical(file, error);
   const fs::path target = error ? file : resolved;

@@ -17,7 +17,7 @@ namespace norvane::store {
 struct FileKnowledge {
   std::int32_t schemaVersion = 0;
   Catalog catalog;
-  std::unordered_map<std::string, std::shared_ptr<const Translation>> translations;  ///< by the statement's shape
+  std::unordered_map<std::string, std::shared_ptr<const Translation>> translations;  ///< by the statement's fingerprint
 };
 
 /// One file as this program uses it.

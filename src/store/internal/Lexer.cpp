@@ -24,8 +24,8 @@ class Scanner {
 
   Lexed Run() {
     result_.tokens.reserve(statement_.size() / 6 + 2);
-    result_.shape.reserve(statement_.size());
-    while (SkipBlanks(), position_ < statement_.size()) Next();
+    result_.fingerprint.reserve(statement_.size());
+    while (SkipWhitespace(), position_ < statement_.size()) Next();
     Add(TokenKind::End, 0);
     return std::move(result_);
   }
@@ -35,7 +35,7 @@ class Scanner {
     return position_ + ahead < statement_.size() ? statement_[position_ + ahead] : '\0';
   }
 
-  void SkipBlanks() {
+  void SkipWhitespace() {
     while (position_ < statement_.size() && IsBlank(statement_[position_])) ++position_;
   }
 
@@ -65,8 +65,8 @@ class Scanner {
     std::size_t length = 1;
     while (IsNamePart(Peek(length))) ++length;
     const Token& token = Add(TokenKind::Name, length);
-    for (const char c : token.source) result_.shape += ToLower(c);
-    result_.shape += ' ';
+    for (const char c : token.source) result_.fingerprint += ToLower(c);
+    result_.fingerprint += ' ';
   }
 
   std::size_t Digits(std::size_t from) const {
@@ -82,7 +82,7 @@ class Scanner {
       if (IsDigit(Peek(length + sign))) length = Digits(length + sign);
     }
     AddLiteral(TokenKind::Number, length, {TokenKind::Number, std::string(statement_.substr(position_, length)), {}});
-    result_.shape += "0 ";
+    result_.fingerprint += "0 ";
   }
 
   void Text(char quote) {
@@ -91,7 +91,7 @@ class Scanner {
     for (; position_ + length < statement_.size(); ++length) {
       if (Peek(length) == quote && Peek(++length) != quote) {
         // An ASCII text is compared through the column's own order, which an index serves; any other is folded first.
-        result_.shape += IsAscii(literal.text) ? "' " : "\" ";
+        result_.fingerprint += IsAscii(literal.text) ? "' " : "\" ";
         return AddLiteral(TokenKind::Text, length, std::move(literal));
       }
       literal.text += Peek(length);
@@ -108,7 +108,7 @@ class Scanner {
       Literal literal;
       literal.date = Date(UnitedStates().ToDate(text).Day());
       AddLiteral(TokenKind::Date, length, std::move(literal));
-      result_.shape += "# ";
+      result_.fingerprint += "# ";
     } catch (const RuntimeError&) {
       AddUnreadable(TokenKind::BadDate, length);
     }
@@ -118,22 +118,22 @@ class Scanner {
     const std::size_t end = statement_.find(']', position_ + 1);
     if (end == std::string_view::npos) return AddUnterminated();
     Token& token = Add(TokenKind::BracketedName, end - position_ + 1);
-    for (const char c : token.source) result_.shape += ToLower(c);
-    result_.shape += ' ';
+    for (const char c : token.source) result_.fingerprint += ToLower(c);
+    result_.fingerprint += ' ';
   }
 
   void Symbol() {
     const std::string_view two = statement_.substr(position_, 2);
     Add(TokenKind::Symbol, two == "<>" || two == "<=" || two == ">=" ? 2 : 1);
-    result_.shape += result_.tokens.back().source;
-    result_.shape += ' ';
+    result_.fingerprint += result_.tokens.back().source;
+    result_.fingerprint += ' ';
   }
 
   void AddUnterminated() { AddUnreadable(TokenKind::Unterminated, statement_.size() - position_); }
 
   void AddUnreadable(TokenKind kind, std::size_t length) {
     Add(kind, length);
-    result_.shape += "! ";
+    result_.fingerprint += "! ";
   }
 
   std::string_view statement_;

@@ -39,8 +39,8 @@ struct Literal {
 struct Lexed {
   std::vector<Token> tokens;  ///< the last is an End
   std::vector<Literal> literals;
-  /// The statement without its constants and blanks: two statements of one shape differ in literals alone.
-  std::string shape;
+  /// The statement without its constants and whitespace: two statements with one fingerprint differ in literals alone.
+  std::string fingerprint;
 };
 
 /// Never fails: what cannot be read becomes a token that no rule of the grammar takes.

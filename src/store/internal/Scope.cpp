@@ -44,46 +44,49 @@ std::vector<ColumnReference> Scope::KeyOrder() const {
   std::vector<ColumnReference> order;
   for (std::size_t table = 0; table < tables_.size(); ++table) {
     for (const std::size_t column : tables_[table]->key) {
-      if (!Determines(order, {table, column})) order.push_back({table, column});
+      if (!DependsOn({table, column}, order)) order.push_back({table, column});
     }
   }
   return order;
 }
 
-bool Scope::Determines(const std::vector<ColumnReference>& columns, ColumnReference wanted) const {
-  std::vector<ColumnReference> known = columns;
-  const auto learn = [&](ColumnReference column) {
-    const bool isNew = !Contains(known, column);
-    if (isNew) known.push_back(column);
+std::vector<ColumnReference> Scope::Closure(std::vector<ColumnReference> columns) const {
+  const auto add = [&](ColumnReference column) {
+    const bool isNew = !Contains(columns, column);
+    if (isNew) columns.push_back(column);
     return isNew;
   };
-  const auto keyIsKnown = [&](std::size_t table) {
+  const auto hasKey = [&](std::size_t table) {
     const auto& key = tables_[table]->key;
     return !key.empty() && std::all_of(key.begin(), key.end(), [&](std::size_t c) {
-      return Contains(known, {table, c});
+      return Contains(columns, {table, c});
     });
   };
-  std::vector<bool> tableLearnt(tables_.size());
-  for (bool learning = true; learning && !Contains(known, wanted);) {
-    learning = false;
+  std::vector<bool> complete(tables_.size());
+  for (bool growing = true; growing;) {
+    growing = false;
     for (const auto& [a, b] : equalities_) {
-      if (Contains(known, a)) learning |= learn(b);
-      if (Contains(known, b)) learning |= learn(a);
+      if (Contains(columns, a)) growing |= add(b);
+      if (Contains(columns, b)) growing |= add(a);
     }
     for (std::size_t table = 0; table < tables_.size(); ++table) {
-      if (tableLearnt[table] || !keyIsKnown(table)) continue;
-      tableLearnt[table] = learning = true;
-      for (std::size_t column = 0; column < tables_[table]->columns.size(); ++column) learn({table, column});
+      if (complete[table] || !hasKey(table)) continue;
+      complete[table] = growing = true;
+      for (std::size_t column = 0; column < tables_[table]->columns.size(); ++column) add({table, column});
     }
   }
-  return Contains(known, wanted);
+  return columns;
 }
 
-std::vector<ColumnReference> Scope::Independent(std::vector<ColumnReference> columns) const {
+bool Scope::DependsOn(ColumnReference column, const std::vector<ColumnReference>& others) const {
+  return Contains(Closure(others), column);
+}
+
+std::vector<ColumnReference> Scope::WithoutDependent(std::vector<ColumnReference> columns) const {
   for (std::size_t i = 0; i < columns.size();) {
     std::vector<ColumnReference> others = columns;
     others.erase(others.begin() + static_cast<std::ptrdiff_t>(i));
-    if (Determines(others, columns[i])) {
+    if (DependsOn(columns[i], others)) {
       columns = std::move(others);
     } else {
       ++i;

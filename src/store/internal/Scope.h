@@ -33,15 +33,18 @@ class Scope {
   /// What puts the rows in the order of the first table's key, then of the next one's as far as that is not settled.
   std::vector<ColumnReference> KeyOrder() const;
 
-  /// The columns without those that follow from the others: what a key determines need not be grouped by, and a
-  /// grouping by one key is read off in key order without a sort.
-  std::vector<ColumnReference> Independent(std::vector<ColumnReference> columns) const;
+  /// The columns without those that depend on the others: what a key determines need not be grouped by, and rows
+  /// grouped by one key are read in key order without a sort.
+  std::vector<ColumnReference> WithoutDependent(std::vector<ColumnReference> columns) const;
 
  private:
   const TableSchema::Column& ColumnOf(ColumnReference column) const {
     return tables_[column.table]->columns[column.column];
   }
-  bool Determines(const std::vector<ColumnReference>& columns, ColumnReference wanted) const;
+  /// The closure of the columns: themselves and every column that they functionally determine, through keys and
+  /// equalities.
+  std::vector<ColumnReference> Closure(std::vector<ColumnReference> columns) const;
+  bool DependsOn(ColumnReference column, const std::vector<ColumnReference>& others) const;
 
   std::vector<const TableSchema*> tables_;
   std::vector<std::pair<ColumnReference, ColumnReference>> equalities_;

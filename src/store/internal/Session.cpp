@@ -118,11 +118,11 @@ Session::Outcome Session::Run(std::string_view statement) {
 
 std::shared_ptr<const Translation> Session::TranslationOf(const Lexed& lexed, std::string_view statement) {
   auto& translations = knowledge_->translations;
-  if (const auto found = translations.find(lexed.shape); found != translations.end()) return found->second;
+  if (const auto found = translations.find(lexed.fingerprint); found != translations.end()) return found->second;
   const syntax::Statement tree = Parse(lexed, statement);
   auto translation = std::make_shared<const Translation>(Translate(tree, lexed, knowledge_->catalog));
   if (translations.size() >= kMostTranslations) translations.clear();
-  return translations[lexed.shape] = std::move(translation);
+  return translations[lexed.fingerprint] = std::move(translation);
 }
 
 sqlite3_stmt* Session::StatementOf(const std::shared_ptr<const Translation>& translation) {

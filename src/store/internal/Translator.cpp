@@ -4,10 +4,10 @@
 #include <set>
 
 #include "core/Characters.h"
+#include "store/internal/ExpressionTyper.h"
 #include "store/internal/Scope.h"
 #include "store/internal/SqlWriting.h"
 #include "store/internal/StoreError.h"
-#include "store/internal/Typer.h"
 
 namespace norvane::store {
 namespace {
@@ -191,7 +191,7 @@ class StatementTranslator {
 
   void AppendGrouping(const Select& select) {
     if (select.groupBy.empty()) return;
-    groupKey_ = scope_.Independent(groupColumns_);
+    groupKey_ = scope_.WithoutDependent(groupColumns_);
     std::string_view lead = " GROUP BY ";
     for (const ColumnReference column : groupKey_) {
       Append({lead, scope_.Sql(column)});
@@ -306,7 +306,7 @@ class StatementTranslator {
   const Catalog& catalog_;
   Scope scope_;
   Translation result_;
-  Typer typer_;
+  ExpressionTyper typer_;
   std::set<int> changed_;
   bool grouped_ = false;
   std::vector<ColumnReference> groupColumns_;

@@ -1,4 +1,4 @@
-#include "core/ProfileText.h"
+#include "core/IniText.h"
 
 #include <optional>
 #include <vector>
@@ -113,7 +113,7 @@ std::size_t EndOfEntries(std::string_view content, const std::vector<Line>& line
 
 }  // namespace
 
-std::optional<std::string_view> ProfileValue(std::string_view content, std::string_view section, std::string_view key) {
+std::optional<std::string_view> IniValue(std::string_view content, std::string_view section, std::string_view key) {
   const std::vector<Line> lines = Lines(content);
   const std::optional<Section> place = FindSection(lines, Trimmed(section));
   const Line* entry = place ? FindEntry(lines, *place, Trimmed(key)) : nullptr;
@@ -121,8 +121,8 @@ std::optional<std::string_view> ProfileValue(std::string_view content, std::stri
   return Unquoted(Trimmed(entry->value));
 }
 
-std::optional<std::string> WithProfileValue(std::string_view content, std::string_view section, std::string_view key,
-                                            std::string_view value) {
+std::optional<std::string> WithIniValue(std::string_view content, std::string_view section, std::string_view key,
+                                        std::string_view value) {
   section = Trimmed(section);
   key = Trimmed(key);
   if (!CanBeWritten(section, key, value)) return std::nullopt;

@@ -1,4 +1,4 @@
-#include "store/internal/Typer.h"
+#include "store/internal/ExpressionTyper.h"
 
 #include "store/internal/SqlFunctions.h"
 #include "store/internal/SqlWriting.h"
@@ -93,20 +93,20 @@ bool HasAggregate(const Expression& expression) {
   return aggregate || HasAggregate(*function->argument);
 }
 
-std::string Typer::Condition(const Expression& expression) {
+std::string ExpressionTyper::Condition(const Expression& expression) {
   const Typed typed = Translate(expression);
   if (IsText(typed)) throw error::TypeMismatchInCriteria();
   return Plain(typed);
 }
 
-Typed Typer::Result(const Expression& expression) {
+Typed ExpressionTyper::Result(const Expression& expression) {
   Typed typed = Translate(expression);
   typed.sql = Plain(typed);
   typed.kind = Typed::Kind::Sql;
   return typed;
 }
 
-std::string Typer::Stored(const Expression& expression, FieldType column) {
+std::string ExpressionTyper::Stored(const Expression& expression, FieldType column) {
   const Typed typed = Translate(expression);
   if (typed.kind == Typed::Kind::Literal) return Bind(typed.literal, BindingFor(column));
   if (typed.kind == Typed::Kind::Null || typed.type == column) return typed.sql;
@@ -115,7 +115,7 @@ std::string Typer::Stored(const Expression& expression, FieldType column) {
   return typed.sql;
 }
 
-Typed Typer::Translate(const Expression& expression) {
+Typed ExpressionTyper::Translate(const Expression& expression) {
   if (const auto* constant = std::get_if<Constant>(&expression.node)) {
     return {Typed::Kind::Literal, TypeOfLiteral(literals_[constant->literal]), {}, *constant};
   }
@@ -134,7 +134,7 @@ Typed Typer::Translate(const Expression& expression) {
   return TranslateFunction(expression, std::get<Function>(expression.node));
 }
 
-Typed Typer::TranslateBinary(const Binary& binary) {
+Typed ExpressionTyper::TranslateBinary(const Binary& binary) {
   if (binary.op == BinaryOperator::And || binary.op == BinaryOperator::Or) {
     const std::string left = Condition(*binary.left);
     const std::string right = Condition(*binary.right);
@@ -147,7 +147,7 @@ Typed Typer::TranslateBinary(const Binary& binary) {
   return Compare(Spelling(binary.op), left, right);
 }
 
-Typed Typer::Compare(std::string_view op, const Typed& left, const Typed& right) {
+Typed ExpressionTyper::Compare(std::string_view op, const Typed& left, const Typed& right) {
   if (left.kind == Typed::Kind::Null || right.kind == Typed::Kind::Null) {
     const std::string leftSql = Plain(left);
     return Sql(Parenthesised(leftSql, op, Plain(right)), FieldType::Boolean);
@@ -156,7 +156,7 @@ Typed Typer::Compare(std::string_view op, const Typed& left, const Typed& right)
   return Sql(IsText(left) ? CompareTexts(op, left, right) : CompareNumbers(op, left, right), FieldType::Boolean);
 }
 
-std::string Typer::CompareTexts(std::string_view op, const Typed& left, const Typed& right) {
+std::string ExpressionTyper::CompareTexts(std::string_view op, const Typed& left, const Typed& right) {
   const bool equality = op == " = " || op == " <> ";
   const std::string column = Plain(left);
   // No accented text equals one without accents, so the column's own order decides, and its index is used.
@@ -164,23 +164,23 @@ std::string Typer::CompareTexts(std::string_view op, const Typed& left, const Ty
   return Parenthesised(FoldedSql(column), op, FoldedSql(Plain(right)));
 }
 
-std::string Typer::CompareNumbers(std::string_view op, const Typed& left, const Typed& right) {
+std::string ExpressionTyper::CompareNumbers(std::string_view op, const Typed& left, const Typed& right) {
   const bool money = IsMoney(left) || IsMoney(right);
   const std::string leftSql = money ? Scaled(left) : Plain(left);
   return Parenthesised(leftSql, op, money ? Scaled(right) : Plain(right));
 }
 
-Typed Typer::Like(const Typed& left, const Typed& right) {
+Typed ExpressionTyper::Like(const Typed& left, const Typed& right) {
   const std::string text = AsText(left);
   return Sql(Concat({kLikeFunction, "(", text, ", ", AsText(right), ")"}), FieldType::Boolean);
 }
 
-Typed Typer::JoinTexts(const Typed& left, const Typed& right) {
+Typed ExpressionTyper::JoinTexts(const Typed& left, const Typed& right) {
   const std::string first = AsText(left);
   return Sql(Concat({"(ifnull(", first, ", '') || ifnull(", AsText(right), ", ''))"}), FieldType::Text);
 }
 
-Typed Typer::TranslateFunction(const Expression& expression, const Function& function) {
+Typed ExpressionTyper::TranslateFunction(const Expression& expression, const Function& function) {
   switch (function.name) {
     case FunctionName::Val:
       return Sql(Concat({kValFunction, "(", AsText(Translate(*function.argument)), ")"}), FieldType::Double);
@@ -191,7 +191,7 @@ Typed Typer::TranslateFunction(const Expression& expression, const Function& fun
   }
 }
 
-Typed Typer::Aggregate(const Expression& expression, const Function& function) {
+Typed ExpressionTyper::Aggregate(const Expression& expression, const Function& function) {
   if (!aggregatesAllowed_) throw error::AggregateNotAllowed(expression.source);
   aggregatesAllowed_ = false;
   Typed argument = Translate(*function.argument);
@@ -201,31 +201,31 @@ Typed Typer::Aggregate(const Expression& expression, const Function& function) {
   return Sql(Concat({sum ? "sum(" : "max(", Plain(argument), ")"}), sum ? TypeOfSum(argument.type) : argument.type);
 }
 
-std::string Typer::Bind(const Constant& literal, BindAs as) {
+std::string ExpressionTyper::Bind(const Constant& literal, BindAs as) {
   bindings_.push_back({literal.literal, literal.negative, as});
   return Concat({"?", std::to_string(bindings_.size())});
 }
 
-std::string Typer::Plain(const Typed& typed) {
+std::string ExpressionTyper::Plain(const Typed& typed) {
   if (typed.kind != Typed::Kind::Literal) return typed.sql;
   if (typed.type == FieldType::Text) return Bind(typed.literal, BindAs::Text);
   return Bind(typed.literal, typed.type == FieldType::Date ? BindAs::Date : BindAs::Number);
 }
 
 /// A number as money is kept.
-std::string Typer::Scaled(const Typed& typed) {
+std::string ExpressionTyper::Scaled(const Typed& typed) {
   if (IsMoney(typed)) return typed.sql;
   return typed.kind == Typed::Kind::Literal ? Bind(typed.literal, BindAs::Money)
                                             : Parenthesised(typed.sql, " * ", "10000");
 }
 
-std::string Typer::AsText(const Typed& typed) {
+std::string ExpressionTyper::AsText(const Typed& typed) {
   if (typed.kind == Typed::Kind::Literal) return Bind(typed.literal, BindAs::Text);
   if (IsText(typed) || typed.kind == Typed::Kind::Null) return typed.sql;
   return Concat({kTextFunction, "(", typed.sql, ", ", std::to_string(static_cast<int>(typed.type)), ")"});
 }
 
-bool Typer::IsAsciiLiteral(const Typed& typed) const {
+bool ExpressionTyper::IsAsciiLiteral(const Typed& typed) const {
   return typed.kind == Typed::Kind::Literal && IsAscii(literals_[typed.literal.literal].text);
 }
 

@@ -12,11 +12,11 @@ namespace norvane {
 
 /// The value as it stands, without blanks and one pair of quotes around it; it points into the content. Nothing if
 /// section or key is missing.
-std::optional<std::string_view> ProfileValue(std::string_view content, std::string_view section, std::string_view key);
+std::optional<std::string_view> IniValue(std::string_view content, std::string_view section, std::string_view key);
 
 /// The content with that value set and every other byte as it was. A missing key is added to its section, a missing
 /// section behind the rest. Nothing if the format cannot hold such a name or value.
-std::optional<std::string> WithProfileValue(std::string_view content, std::string_view section, std::string_view key,
-                                            std::string_view value);
+std::optional<std::string> WithIniValue(std::string_view content, std::string_view section, std::string_view key,
+                                        std::string_view value);
 
 }  // namespace norvane

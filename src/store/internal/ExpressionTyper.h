@@ -19,9 +19,9 @@ struct Typed {
 };
 
 /// Turns expressions over the tables of a scope into typed SQL, adding a binding for each literal.
-class Typer {
+class ExpressionTyper {
  public:
-  Typer(const Scope& scope, const std::vector<Literal>& literals, std::vector<Binding>& bindings)
+  ExpressionTyper(const Scope& scope, const std::vector<Literal>& literals, std::vector<Binding>& bindings)
       : scope_(scope), literals_(literals), bindings_(bindings) {}
 
   /// A condition. Raises -2147217913 if it is a text.

@@ -9,6 +9,8 @@
 
 #include "Check.h"
 #include "core/RuntimeError.h"
+#include "core/SqlText.h"
+#include "core/Val.h"
 #include "support/Machines.h"
 
 namespace norvane {

@@ -9,6 +9,7 @@
 #include "core/Decimal.h"
 #include "core/NumberParser.h"
 #include "core/NumberText.h"
+#include "core/Rounding.h"
 #include "core/RuntimeError.h"
 
 namespace norvane {

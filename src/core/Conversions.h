@@ -13,34 +13,6 @@
 
 namespace norvane {
 
-// What never looks at the regional settings.
-
-/// The leading number of a text, 0 if there is none. Never fails.
-double Val(std::string_view text);
-/// `Val` rounded half to even to a whole number. Raises 6 out of range.
-std::int32_t ValLong(std::string_view text);
-/// Half to even. Raises 6 out of range.
-std::int32_t RoundToLong(double value);
-std::int32_t RoundToLong(Currency value);
-std::int16_t RoundToInteger(double value);
-std::int16_t RoundToInteger(Currency value);
-/// A whole number with leading zeros up to `digits`: 7 of 3 is "007".
-std::string PaddedText(std::int32_t value, int digits);
-/// Two-digit month, day and year with slashes, as the masked boxes hold them: "11/22/26".
-std::string MaskedDateText(Date date);
-
-/// How values are written into a statement: United States form whatever the machine's.
-namespace sql {
-std::string Text(std::int32_t value);
-std::string Text(double value);
-std::string Text(Currency value);
-/// The short date between hash signs.
-std::string Text(Date value);
-/// The word True or False.
-std::string Text(bool value);
-std::string Text(const char*) = delete;
-}  // namespace sql
-
 /// What converts as a value rather than as a text.
 template <class T>
 concept NotText = std::convertible_to<const T&, Value> && !std::convertible_to<const T&, std::string_view>;

@@ -1,7 +1,8 @@
+#include "core/Rounding.h"
+
 #include <cmath>
 #include <limits>
 
-#include "core/Conversions.h"
 #include "core/RuntimeError.h"
 
 namespace norvane {

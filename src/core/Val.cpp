@@ -1,11 +1,13 @@
+#include "core/Val.h"
+
 #include <algorithm>
 #include <iterator>
 #include <limits>
 #include <optional>
 
 #include "core/Characters.h"
-#include "core/Conversions.h"
 #include "core/Decimal.h"
+#include "core/Rounding.h"
 
 namespace norvane {
 namespace {

@@ -1,4 +1,5 @@
 #include "core/Conversions.h"
+#include "core/Rounding.h"
 #include "core/RuntimeError.h"
 
 namespace norvane {

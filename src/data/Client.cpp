@@ -1,5 +1,6 @@
 #include "data/Client.h"
 
+#include "core/SqlText.h"
 #include "data/Statement.h"
 
 namespace norvane {

@@ -1,6 +1,7 @@
 #include "data/DataObject.h"
 
 #include "core/Conversions.h"
+#include "core/Rounding.h"
 #include "data/Statement.h"
 
 namespace norvane {

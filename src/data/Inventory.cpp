@@ -1,5 +1,6 @@
 #include "data/Inventory.h"
 
+#include "core/Rounding.h"
 #include "data/Statement.h"
 
 namespace norvane {

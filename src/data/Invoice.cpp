@@ -1,6 +1,8 @@
 #include "data/Invoice.h"
 
 #include "core/Clock.h"
+#include "core/Rounding.h"
+#include "core/Val.h"
 #include "data/Statement.h"
 
 namespace norvane {

@@ -2,6 +2,8 @@
 
 #include "core/Conversions.h"
 #include "core/RuntimeError.h"
+#include "core/SqlText.h"
+#include "core/Val.h"
 
 namespace norvane {
 

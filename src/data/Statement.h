@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/Conversions.h"
+#include "core/SqlText.h"
 
 namespace norvane::sql {
 

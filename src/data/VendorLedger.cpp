@@ -1,4 +1,5 @@
 #include "core/Characters.h"
+#include "core/Conversions.h"
 #include "data/Statement.h"
 #include "data/Vendor.h"
 

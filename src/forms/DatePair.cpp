@@ -1,6 +1,7 @@
 #include "forms/DatePair.h"
 
 #include "core/Conversions.h"
+#include "core/MaskText.h"
 
 namespace norvane {
 

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "core/SettingsFile.h"
+#include "core/Val.h"
 
 namespace norvane {
 

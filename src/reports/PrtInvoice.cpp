@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/Val.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "reports/Headings.h"

@@ -5,11 +5,11 @@
 #include <optional>
 #include <vector>
 
+#include "core/UnitedStates.h"
 #include "store/internal/RowOrder.h"
 #include "store/internal/Rows.h"
 #include "store/internal/Session.h"
 #include "store/internal/StoreError.h"
-#include "store/internal/UnitedStates.h"
 
 namespace norvane {
 namespace {

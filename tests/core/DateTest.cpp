@@ -1,6 +1,8 @@
 #include <utility>
 
 #include "core/Given.h"
+#include "core/MaskText.h"
+#include "core/SqlText.h"
 
 namespace norvane {
 namespace {

@@ -2,6 +2,10 @@
 #include <utility>
 
 #include "core/Given.h"
+#include "core/MaskText.h"
+#include "core/Rounding.h"
+#include "core/SqlText.h"
+#include "core/Val.h"
 
 namespace norvane {
 namespace {

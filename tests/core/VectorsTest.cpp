@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/Given.h"
+#include "core/Rounding.h"
 
 namespace norvane {
 namespace {

@@ -1,3 +1,4 @@
+#include "core/SqlText.h"
 #include "data/DataTest.h"
 #include "data/Invoice.h"
 

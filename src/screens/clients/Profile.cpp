@@ -1,5 +1,6 @@
 #include "screens/clients/Profile.h"
 
+#include "core/Val.h"
 #include "data/Client.h"
 #include "screens/clients/ClientCommands.h"
 #include "screens/clients/Customer.h"

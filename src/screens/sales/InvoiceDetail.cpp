@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/Val.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "screens/sales/CustInvoices.h"

@@ -1,5 +1,6 @@
 // The lines of an invoice: loading, editing and storing them, and the stock and back orders that follow.
 
+#include "core/Val.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
 #include "screens/sales/InvoiceDetail.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/Val.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
 #include "forms/DatePair.h"

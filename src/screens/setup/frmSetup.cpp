@@ -1,5 +1,6 @@
 #include "screens/setup/frmSetup.h"
 
+#include "core/Val.h"
 #include "data/cSetup.h"
 #include "screens/setup/PaymentCategories.h"
 #include "screens/setup/ShippingTypes.h"

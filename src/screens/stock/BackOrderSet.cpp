@@ -3,6 +3,7 @@
 #include <cmath>
 #include <memory>
 
+#include "core/Rounding.h"
 #include "data/Invoice.h"
 #include "store/Recordset.h"
 

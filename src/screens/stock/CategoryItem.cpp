@@ -1,6 +1,7 @@
 #include "screens/stock/CategoryItem.h"
 
 #include "core/Conversions.h"
+#include "core/MaskText.h"
 
 namespace norvane {
 

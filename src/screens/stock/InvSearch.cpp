@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "core/Val.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
 #include "data/SharedLists.h"

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "core/Val.h"
 #include "data/Inventory.h"
 #include "data/SharedLists.h"
 #include "screens/stock/CategoryItem.h"

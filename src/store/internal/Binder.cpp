@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "core/UnitedStates.h"
 #include "store/internal/StoreError.h"
-#include "store/internal/UnitedStates.h"
 
 namespace norvane::store {
 namespace {

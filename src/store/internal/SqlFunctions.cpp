@@ -2,10 +2,11 @@
 
 #include <string>
 
+#include "core/UnitedStates.h"
+#include "core/Val.h"
 #include "store/FieldType.h"
 #include "store/internal/Sqlite.h"
 #include "store/internal/TextFolding.h"
-#include "store/internal/UnitedStates.h"
 
 namespace norvane::store {
 namespace {

@@ -1,6 +1,6 @@
-#include "store/internal/UnitedStates.h"
+#include "core/UnitedStates.h"
 
-namespace norvane::store {
+namespace norvane {
 namespace {
 
 /// Only a date without a year asks for the clock, and the program writes none.
@@ -17,4 +17,4 @@ const Conversions& UnitedStates() {
   return conversions;
 }
 
-}  // namespace norvane::store
+}  // namespace norvane

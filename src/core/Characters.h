@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -24,19 +25,18 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 /// True if `text` begins with `start`, in any case. No text begins with an empty one.
 bool StartsWithNoCase(std::string_view text, std::string_view start);
 
-/// The bytes of the blank that `text` begins with: a blank, a tab or one of the fixed blanks that stand between
-/// digits. 0 if there is none.
+/// The bytes of the whitespace character that `text` begins with: a space, a tab or one of the fixed spaces that
+/// separate digits. 0 if there is none.
 std::size_t WhitespaceLength(std::string_view text);
 void SkipWhitespace(std::string_view& text);
-/// Cuts `start` off the text if it stands there; an empty one never does.
+/// Without the spaces, tabs and carriage returns at both ends.
+std::string_view Trimmed(std::string_view text);
+/// Removes `start` from the front of the text if it is there; an empty one never is.
 bool Take(std::string_view& text, std::string_view start);
 
-/// The first `count` bytes at most, cut at a character's boundary.
-std::string_view FirstBytes(std::string_view text, std::size_t count);
-/// The first `count` characters at most.
-std::string_view FirstCharacters(std::string_view text, std::size_t count);
-
-/// The text in one line and one cell: each tab and each end of a line becomes a blank.
+/// The text in one line and one cell: each tab and each line end becomes a space.
 std::string OneLine(std::string_view text);
+
+std::string Concat(std::initializer_list<std::string_view> parts);
 
 }  // namespace norvane

@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "core/Characters.h"
+#include "core/Utf8.h"
 
 namespace norvane {
 namespace {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/Characters.h"
+#include "core/Utf8.h"
 
 namespace norvane {
 namespace {

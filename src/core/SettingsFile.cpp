@@ -4,6 +4,7 @@
 
 #include "core/Characters.h"
 #include "core/IniText.h"
+#include "core/Utf8.h"
 #include "core/WholeFile.h"
 
 namespace norvane {

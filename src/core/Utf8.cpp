@@ -1,10 +1,16 @@
 #include "core/Utf8.h"
 
+#include <algorithm>
+
 namespace norvane {
 namespace {
 
 constexpr Character kDamaged{0xFFFD, 1};
 constexpr char32_t kJoiner = 0x200D;
+
+bool ContinuesCharacter(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
 
 std::size_t LengthByFirstByte(unsigned char byte) {
   if (byte >= 0xC2 && byte < 0xE0) return 2;
@@ -31,9 +37,8 @@ Character internal::LongCharacterAt(std::string_view text, std::size_t place) {
   if (length == 0 || place + length > text.size()) return kDamaged;
   char32_t code = first & (0xFFU >> (length + 1));
   for (std::size_t i = 1; i < length; ++i) {
-    const auto next = static_cast<unsigned char>(text[place + i]);
-    if ((next & 0xC0U) != 0x80U) return kDamaged;
-    code = (code << 6U) | (next & 0x3FU);
+    if (!ContinuesCharacter(text[place + i])) return kDamaged;
+    code = (code << 6U) | (static_cast<unsigned char>(text[place + i]) & 0x3FU);
   }
   return {code, length};
 }
@@ -48,6 +53,33 @@ std::size_t ClusterLength(std::string_view text, std::size_t place) {
     last = next;
   }
   return end - place;
+}
+
+std::size_t CharacterCount(std::string_view text) {
+  return static_cast<std::size_t>(
+      std::count_if(text.begin(), text.end(), [](char c) { return !ContinuesCharacter(c); }));
+}
+
+std::string_view FirstCharacters(std::string_view text, std::size_t count) {
+  std::size_t end = 0;
+  for (; end < text.size() && count > 0; --count) {
+    ++end;
+    while (end < text.size() && ContinuesCharacter(text[end])) ++end;
+  }
+  return text.substr(0, end);
+}
+
+std::string_view FirstBytes(std::string_view text, std::size_t count) {
+  if (text.size() <= count) return text;
+  // A character has four bytes at most; what runs on longer is no text and is cut where it is.
+  std::size_t end = count;
+  while (end > 0 && count - end < 3 && ContinuesCharacter(text[end])) --end;
+  return text.substr(0, ContinuesCharacter(text[end]) ? count : end);
+}
+
+void DropLastCharacter(std::string& text) {
+  while (!text.empty() && ContinuesCharacter(text.back())) text.pop_back();
+  if (!text.empty()) text.pop_back();
 }
 
 }  // namespace norvane

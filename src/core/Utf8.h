@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace norvane {
@@ -23,5 +24,13 @@ inline Character CharacterAt(std::string_view text, std::size_t place) {
 
 /// What the eye takes for one character: with the marks that are set over it and what is joined to it. In bytes.
 std::size_t ClusterLength(std::string_view text, std::size_t place);
+
+std::size_t CharacterCount(std::string_view text);
+/// The first `count` characters at most.
+std::string_view FirstCharacters(std::string_view text, std::size_t count);
+/// The first `count` bytes at most, cut at a character's boundary.
+std::string_view FirstBytes(std::string_view text, std::size_t count);
+/// Does nothing to an empty text.
+void DropLastCharacter(std::string& text);
 
 }  // namespace norvane

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Characters.h"
+#include "core/Utf8.h"
 #include "pages/LineBreaker.h"
 #include "pages/TableFormat.h"
 
@@ -10,11 +11,6 @@ namespace norvane::pages {
 namespace {
 
 constexpr float kSmallestSize = 8.0F;
-
-void DropLastCharacter(std::string& text) {
-  while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) text.pop_back();
-  if (!text.empty()) text.pop_back();
-}
 
 }  // namespace
 

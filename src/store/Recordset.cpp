@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/UnitedStates.h"
+#include "core/Utf8.h"
 #include "store/internal/RowOrder.h"
 #include "store/internal/Rows.h"
 #include "store/internal/Session.h"
@@ -13,11 +14,6 @@
 
 namespace norvane {
 namespace {
-
-std::size_t CharacterCount(std::string_view text) {
-  return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
 
 /// A value as a field of that type holds it. Raises 13 or 6 if it does not fit.
 Value ConvertedTo(FieldType type, const Value& value) {

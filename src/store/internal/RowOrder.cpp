@@ -44,12 +44,6 @@ class Criterion {
   std::vector<std::string> keys_;
 };
 
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 /// Cuts `word` off the end if it stands there behind a blank.
 bool TakeLastWord(std::string_view& text, std::string_view word) {
   if (text.size() <= word.size() || !EqualNoCase(text.substr(text.size() - word.size()), word)) return false;

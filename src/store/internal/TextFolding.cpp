@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/Characters.h"
+#include "core/Utf8.h"
 
 namespace norvane::store {
 namespace {
@@ -91,19 +92,12 @@ std::uint32_t PlainGreekOrCyrillic(std::uint32_t c) {
   }
 }
 
-/// The next character of a UTF-8 text; a byte that begins none stands for itself.
+/// The next character of a UTF-8 text; a damaged byte counts as the character of that code.
 std::uint32_t NextCharacter(std::string_view text, std::size_t& position) {
-  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  const unsigned char lead = byte(position++);
-  const int more = lead < 0xC2 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : lead < 0xF5 ? 3 : 0;
-  if (more == 0 || position + more > text.size()) return lead;
-  std::uint32_t character = lead & (0x3F >> more);
-  for (int i = 0; i < more; ++i) {
-    if ((byte(position + i) & 0xC0) != 0x80) return lead;
-    character = character << 6 | (byte(position + i) & 0x3F);
-  }
-  position += more;
-  return character;
+  const Character next = CharacterAt(text, position);
+  const auto byte = static_cast<unsigned char>(text[position]);
+  position += next.length;
+  return next.length == 1 ? byte : next.code;
 }
 
 void Append(std::string& text, std::uint32_t c) {
@@ -159,12 +153,6 @@ void FoldKey(std::string_view text, std::string& key) {
   for (std::size_t i = 0; i < text.size();) AppendPlain(key, Lower(NextCharacter(text, i)));
   key += kAccentsFollow;
   for (std::size_t i = 0; i < text.size();) Append(key, Lower(NextCharacter(text, i)));
-}
-
-std::string FoldKey(std::string_view text) {
-  std::string key;
-  FoldKey(text, key);
-  return key;
 }
 
 bool MatchesPattern(std::string_view text, std::string_view pattern) {

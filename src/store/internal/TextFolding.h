@@ -7,11 +7,9 @@ namespace norvane::store {
 
 bool IsAscii(std::string_view text);
 
-/// A text (UTF-8) turned into one whose bytes sort as people expect: without regard to case, accented letters beside
-/// their plain ones. Two texts have one key only if they differ in case alone: an accent makes a difference, but a
-/// later one than any letter.
-std::string FoldKey(std::string_view text);
-/// FoldKey into a buffer that is used again.
+/// Puts the sort key of a text (UTF-8) into `key`: a text whose bytes sort as people expect, without regard to case,
+/// accented letters beside their plain ones. Two texts have one key only if they differ in case alone; an accent makes
+/// a difference only where all letters are equal.
 void FoldKey(std::string_view text, std::string& key);
 
 /// The store's `like`: % for any text, _ for one character, without regard to case.

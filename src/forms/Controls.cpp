@@ -41,10 +41,6 @@ namespace {
 
 constexpr std::string_view kEmptyMask = "__/__/__";
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 /// The digits and blanks between the mask's slashes, as typed.
 std::array<std::string, 3> MaskPlaces(std::string_view text) {
   std::array<std::string, 3> places;

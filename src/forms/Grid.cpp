@@ -2,19 +2,11 @@
 
 #include <algorithm>
 
+#include "core/Characters.h"
 #include "core/RuntimeError.h"
 #include "forms/GridModel.h"
 
 namespace norvane {
-
-namespace {
-
-bool IsWord(std::string_view text, std::string_view lowerCaseWord) {
-  return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
-                    [](char a, char b) { return (a | 0x20) == b; });
-}
-
-}  // namespace
 
 Grid::Grid(Form& form, std::string name, GridKind kind)
     : Control(form, std::move(name)), model_(std::make_unique<Model>()) {
@@ -102,8 +94,8 @@ std::string Grid::Cell(int row, int col) const {
   CheckCol(col);
   const auto content = model_->table.Cell(row, col);
   if (row > 0 && model_->Column(col).type == ColumnType::Boolean) {
-    if (IsWord(content, "true")) return "-1";
-    if (IsWord(content, "false")) return "0";
+    if (EqualNoCase(content, "True")) return "-1";
+    if (EqualNoCase(content, "False")) return "0";
   }
   return std::string(content);
 }

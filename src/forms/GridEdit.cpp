@@ -7,17 +7,12 @@ namespace norvane {
 
 namespace {
 
-bool BeginsWith(std::string_view text, std::string_view letters) {
-  return text.size() >= letters.size() && std::equal(letters.begin(), letters.end(), text.begin(),
-                                                     [](char a, char b) { return ToLower(a) == ToLower(b); });
-}
-
 /// The first item from `first` on, round the end, that begins with the letters; -1 for none.
 int FindItem(const std::vector<std::string>& items, std::string_view letters, int first) {
   const auto count = static_cast<int>(items.size());
   for (int i = 0; i < count; ++i) {
     const int item = (first + i) % count;
-    if (BeginsWith(items[static_cast<std::size_t>(item)], letters)) return item;
+    if (StartsWithNoCase(items[static_cast<std::size_t>(item)], letters)) return item;
   }
   return -1;
 }

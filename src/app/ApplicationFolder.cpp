@@ -5,15 +5,12 @@
 #include <QStandardPaths>
 #include <QString>
 
-#include "core/SettingsFile.h"
+#include "core/FileNames.h"
 
 namespace norvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kDatabase = "norvane.mdb";
-constexpr const char* kHelp = "help";
 
 fs::path ToPath(const QString& path) {
   return {path.toStdU16String()};
@@ -27,7 +24,7 @@ fs::path FolderOf(const char* executable) {
 
 /// The database as it was installed; empty if there is none.
 fs::path DeliveredDatabase() {
-  return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, kDatabase));
+  return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, kDatabaseFile));
 }
 
 /// The folder appears whole or not at all, so what goes wrong at the first start is put right by the next one. What is
@@ -42,9 +39,9 @@ void MakeOwnFolder(const fs::path& folder) {
   fs::remove_all(unfinished, failed);
   fs::create_directory(unfinished, failed);
   fs::permissions(unfinished, fs::perms::owner_all, failed);
-  fs::create_directory_symlink(delivered.parent_path() / kHelp, unfinished / kHelp, failed);
-  if (fs::copy_file(delivered, unfinished / kDatabase, failed)) {
-    fs::permissions(unfinished / kDatabase, fs::perms::owner_read | fs::perms::owner_write, failed);
+  fs::create_directory_symlink(delivered.parent_path() / kHelpFolder, unfinished / kHelpFolder, failed);
+  if (fs::copy_file(delivered, unfinished / kDatabaseFile, failed)) {
+    fs::permissions(unfinished / kDatabaseFile, fs::perms::owner_read | fs::perms::owner_write, failed);
     fs::rename(unfinished, folder, failed);
   } else {
     fs::remove_all(unfinished, failed);
@@ -53,7 +50,7 @@ void MakeOwnFolder(const fs::path& folder) {
 
 bool HasBeenWorkedIn(const fs::path& folder) {
   std::error_code failed;
-  return fs::exists(folder / kDatabase, failed) || fs::exists(folder / kSettingsFile, failed);
+  return fs::exists(folder / kDatabaseFile, failed) || fs::exists(folder / kSettingsFile, failed);
 }
 
 }  // namespace

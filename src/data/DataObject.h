@@ -18,9 +18,6 @@
 
 namespace norvane {
 
-/// The database's name within the application's folder.
-inline constexpr const char* kDatabaseFile = "norvane.mdb";
-
 /// A table whose rows are numbered by a column, from the number after `base` on.
 struct NumberedTable {
   std::string_view name, key;

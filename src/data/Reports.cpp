@@ -1,6 +1,7 @@
 #include "data/Reports.h"
 
 #include "core/Clock.h"
+#include "core/FileNames.h"
 #include "data/Invoice.h"
 #include "data/Statement.h"
 

@@ -1,5 +1,6 @@
 #include "data/SharedLists.h"
 
+#include "core/FileNames.h"
 #include "core/Trap.h"
 #include "data/Inventory.h"
 #include "data/cSetup.h"

@@ -1,5 +1,6 @@
 #include "reports/InventorySalesReport.h"
 
+#include "core/FileNames.h"
 #include "data/Reports.h"
 #include "store/Recordset.h"
 

@@ -1,5 +1,6 @@
 #include "reports/PrtIncome.h"
 
+#include "core/FileNames.h"
 #include "data/Reports.h"
 #include "reports/ReportTable.h"
 #include "store/Recordset.h"

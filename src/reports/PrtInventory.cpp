@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/FileNames.h"
 #include "data/Inventory.h"
 #include "reports/ReportTable.h"
 #include "store/Recordset.h"

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "core/FileNames.h"
 #include "core/Trap.h"
 #include "data/Client.h"
 #include "forms/Program.h"

@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "core/FileNames.h"
 #include "data/Client.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
@@ -342,7 +343,7 @@ void Customer::ShowAging(std::int16_t days) {
 }
 
 void Customer::mnuContents_Click() {
-  Trapped("Client.mnuContents_Click -", [&] { desktop.ShowHelp(workspace.File("help")); });
+  Trapped("Client.mnuContents_Click -", [&] { desktop.ShowHelp(workspace.File(kHelpFolder)); });
 }
 
 // Shutdown.

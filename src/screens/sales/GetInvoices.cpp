@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/FileNames.h"
 #include "core/Trap.h"
 #include "data/Client.h"
 #include "data/Invoice.h"

@@ -1,5 +1,6 @@
 #include "screens/start/Splash.h"
 
+#include "core/FileNames.h"
 #include "core/SettingsFile.h"
 #include "screens/clients/Customer.h"
 

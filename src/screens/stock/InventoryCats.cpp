@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "core/FileNames.h"
+#include "core/Val.h"
 #include "data/Inventory.h"
 #include "screens/stock/frmInventory.h"
 #include "store/Recordset.h"

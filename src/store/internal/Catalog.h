@@ -24,8 +24,6 @@ struct TableSchema {
 
   /// -1 if there is no such column; in any case of letters.
   int Find(std::string_view column) const;
-  /// The key is a Long, which SQLite would fill in by itself if it were left out.
-  bool HasNumberKey() const { return key.size() == 1 && columns[key[0]].type == FieldType::Long; }
   bool HasTextKey() const { return !key.empty() && columns[key[0]].type == FieldType::Text; }
 };
 

@@ -1,7 +1,7 @@
 #include "store/internal/ExpressionTyper.h"
 
+#include "core/Characters.h"
 #include "store/internal/SqlFunctions.h"
-#include "store/internal/SqlWriting.h"
 #include "store/internal/StoreError.h"
 #include "store/internal/TextFolding.h"
 

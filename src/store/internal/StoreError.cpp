@@ -1,6 +1,6 @@
 #include "store/internal/StoreError.h"
 
-#include "store/internal/SqlWriting.h"
+#include "core/Characters.h"
 
 namespace norvane::store::error {
 namespace {

@@ -57,6 +57,10 @@ bool Conversions::IsNumeric(std::string_view text) const {
   return number && norvane::DoubleOf(*number);
 }
 
+double Conversions::LeadingNumber(std::string_view text) const {
+  return ParseLeadingNumber(text, settings_);
+}
+
 Date Conversions::ToDate(std::string_view text) const {
   return OrMismatch(ParseDate(text, settings_, clock_));
 }

@@ -36,6 +36,10 @@ class Conversions {
   bool IsDate(std::string_view text) const;
   bool IsNumeric(std::string_view text) const;
 
+  /// The leading number of a box that may hold more: 0 if there is none. Regional signs are read where the decimal sign
+  /// is no point, else as `Val` does.
+  double LeadingNumber(std::string_view text) const;
+
   std::int32_t ToLong(const NotText auto& value) const { return LongOf(value); }
   std::int16_t ToInteger(const NotText auto& value) const { return IntegerOf(value); }
   double ToDouble(const NotText auto& value) const { return DoubleOf(value); }

@@ -1,6 +1,7 @@
 #include "core/NumberParser.h"
 
 #include "core/Characters.h"
+#include "core/Val.h"
 
 namespace norvane {
 namespace {
@@ -52,6 +53,27 @@ std::optional<Decimal> ParseNumber(std::string_view text, const RegionalSettings
   if (!text.empty() || around.opened != around.closed) return std::nullopt;
   number->negative = (around.minus || around.opened) && !number->digits.empty();
   return number;
+}
+
+double ParseLeadingNumber(std::string_view text, const RegionalSettings& settings) {
+  const NumberMarks marks = MarksIn(text, settings);
+  if (marks.decimalPoint == ".") return Val(text);
+  std::string plain;
+  bool hasDecimals = false;
+  bool hasDigits = false;
+  while (!text.empty()) {
+    SkipWhitespace(text);
+    if (hasDigits && !hasDecimals && Take(text, marks.thousandsSeparator)) continue;
+    if (!hasDecimals && Take(text, marks.decimalPoint)) {
+      hasDecimals = true;
+      plain += '.';
+    } else if (!text.empty()) {
+      hasDigits |= IsDigit(text.front());
+      plain += text.front();
+      text.remove_prefix(1);
+    }
+  }
+  return Val(plain);
 }
 
 }  // namespace norvane

@@ -12,4 +12,8 @@ namespace norvane {
 /// negative, thousands separators left of the point, an exponent. Nothing if it is anything else.
 std::optional<Decimal> ParseNumber(std::string_view text, const RegionalSettings& settings);
 
+/// The leading number of a text, 0 if there is none, as `Val` reads it but with the regional signs where the decimal
+/// sign is no point: "1.234,50 €" is 1234.5. Never fails.
+double ParseLeadingNumber(std::string_view text, const RegionalSettings& settings);
+
 }  // namespace norvane

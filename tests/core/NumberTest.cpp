@@ -10,6 +10,16 @@
 namespace norvane {
 namespace {
 
+TEST(LeadingNumber, ReadsRegionalSignsWhereTheDecimalSignIsNoPoint) {
+  const std::pair<const char*, double> cases[] = {{"7,50 €", 7.5}, {"1.234,56 €", 1234.56}, {"-0,99", -0.99},
+                                                  {"8,25%", 8.25}, {"€ 7,50", 0},           {"12", 12}};
+  for (const auto& [text, number] : cases) EXPECT_EQ(kGermany.LeadingNumber(text), number) << text;
+  EXPECT_EQ(kUnitedStates.LeadingNumber("1,234.5"), 1);
+  RegionalSettings french = Germany();
+  french.thousandsSeparator = french.currencyThousandsSeparator = "\u202F";
+  EXPECT_EQ(Conversions(french, kClock).LeadingNumber("1\u202F234,5 €"), 1234.5);
+}
+
 TEST(Val, TakesTheLeadingNumberAndNeverFails) {
   const std::pair<const char*, double> cases[] = {{"", 0},
                                                   {"abc", 0},

@@ -2,27 +2,28 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace norvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t kNewFileMode = 0666;  // less what the process masks
+constexpr mode_t kNewFileMode = 0600;
 
 class FileHandle {
  public:
   explicit FileHandle(int handle) : handle_(handle) {}
   FileHandle(const FileHandle&) = delete;
   FileHandle& operator=(const FileHandle&) = delete;
-  ~FileHandle() { Close(); }
+  ~FileHandle() {
+    if (handle_ >= 0) ::close(handle_);
+  }
 
   explicit operator bool() const { return handle_ >= 0; }
   int Get() const { return handle_; }
-  bool Close() { return handle_ < 0 || ::close(std::exchange(handle_, -1)) == 0; }
 
  private:
   int handle_;
@@ -48,11 +49,33 @@ bool WriteAll(int handle, std::string_view content) {
   return true;
 }
 
-bool WriteNewFile(const fs::path& file, std::string_view content, const struct stat* model) {
-  FileHandle handle(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode));
-  if (!handle) return false;
-  if (model && ::fchmod(handle.Get(), model->st_mode & 07777) != 0) return false;
-  return WriteAll(handle.Get(), content) && ::fsync(handle.Get()) == 0 && handle.Close();
+bool IsSameFile(int handle, const fs::path& file) {
+  struct stat opened = {};
+  struct stat named = {};
+  return ::fstat(handle, &opened) == 0 && ::stat(file.c_str(), &named) == 0 && opened.st_dev == named.st_dev &&
+         opened.st_ino == named.st_ino;
+}
+
+/// The file to write, empty and for this process alone; -1 if that is not possible. It has one name, so that what a
+/// process left that ended too early is used again; one that another process is writing is waited for.
+int OpenUnfinished(const fs::path& file) {
+  while (true) {
+    const int handle = ::open(file.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kNewFileMode);
+    if (handle < 0) return handle;
+    ::flock(handle, LOCK_EX);
+    // The other process has given it its name meanwhile if this is no longer the file of that name.
+    if (IsSameFile(handle, file) && ::ftruncate(handle, 0) == 0) return handle;
+    const bool renamed = !IsSameFile(handle, file);
+    ::close(handle);
+    if (!renamed) return -1;
+  }
+}
+
+bool WriteUnfinished(int handle, std::string_view content, const struct stat* model) {
+  const mode_t mode = model ? model->st_mode & 07777 : kNewFileMode;
+  // A file system without modes is no reason to lose the content.
+  ::fchmod(handle, mode);
+  return WriteAll(handle, content) && ::fsync(handle) == 0;
 }
 
 }  // namespace
@@ -80,10 +103,11 @@ bool WriteFileAtomically(const fs::path& file, std::string_view content) {
   const bool exists = ::stat(target.c_str(), &status) == 0;
   if (exists && (!S_ISREG(status.st_mode) || ::access(target.c_str(), W_OK) != 0)) return false;
   fs::path beside = target;
-  beside += "." + std::to_string(::getpid()) + ".new";
-  // Left by a process of that number that did not end well.
-  ::unlink(beside.c_str());
-  if (!WriteNewFile(beside, content, exists ? &status : nullptr) || ::rename(beside.c_str(), target.c_str()) != 0) {
+  beside += ".new";
+  const FileHandle handle(OpenUnfinished(beside));
+  if (!handle) return false;
+  if (!WriteUnfinished(handle.Get(), content, exists ? &status : nullptr) ||
+      ::rename(beside.c_str(), target.c_str()) != 0) {
     ::unlink(beside.c_str());
     return false;
   }

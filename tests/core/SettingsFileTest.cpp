@@ -85,6 +85,7 @@ TEST_F(SettingsFile, RefusesWhatWouldReadBackAsSomethingElse) {
 }
 
 TEST_F(SettingsFile, KeepsModeAndLinkAndLeavesNothingBeside) {
+  std::ofstream(folder_ / "real.ini.new") << "left by a crash";
   const fs::path real = folder_ / "real.ini";
   std::ofstream(real) << "[A]\nK=1\n";
   fs::permissions(real, fs::perms(0640));
@@ -94,6 +95,8 @@ TEST_F(SettingsFile, KeepsModeAndLinkAndLeavesNothingBeside) {
   EXPECT_TRUE(fs::is_symlink(file_));
   EXPECT_EQ(fs::status(real).permissions(), fs::perms(0640));
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_), {}), 2);
+  EXPECT_TRUE(WriteIniString("A", "K", "1", folder_ / "own.ini"));
+  EXPECT_EQ(fs::status(folder_ / "own.ini").permissions(), fs::perms(0600));
 }
 
 TEST_F(SettingsFile, SaysSoWhenItCannotBeWritten) {

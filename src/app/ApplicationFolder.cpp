@@ -1,11 +1,13 @@
 #include "app/ApplicationFolder.h"
 
+#include <optional>
 #include <string>
 
 #include <QStandardPaths>
 #include <QString>
 
 #include "core/FileNames.h"
+#include "core/WholeFile.h"
 
 namespace norvane {
 namespace {
@@ -40,9 +42,10 @@ void MakeOwnFolder(const fs::path& folder) {
   fs::create_directory(unfinished, failed);
   fs::permissions(unfinished, fs::perms::owner_all, failed);
   fs::create_directory_symlink(delivered.parent_path() / kHelpFolder, unfinished / kHelpFolder, failed);
-  if (fs::copy_file(delivered, unfinished / kDatabaseFile, failed)) {
-    fs::permissions(unfinished / kDatabaseFile, fs::perms::owner_read | fs::perms::owner_write, failed);
+  const std::optional<std::string> database = ReadWholeFile(delivered);
+  if (database && WriteFileAtomically(unfinished / kDatabaseFile, *database)) {
     fs::rename(unfinished, folder, failed);
+    SynchronizeFolder(folder.parent_path());
   } else {
     fs::remove_all(unfinished, failed);
   }

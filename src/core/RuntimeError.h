@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace norvane {
 
@@ -30,13 +31,17 @@ class RuntimeError : public std::runtime_error {
  public:
   /// The runtime's own error, with its fixed text.
   explicit RuntimeError(ErrorNumber number);
-  RuntimeError(std::int32_t number, const std::string& text) : std::runtime_error(text), number_(number) {}
+  /// `cause` is what is known beyond the text, in words for details that the user may open; mostly empty.
+  RuntimeError(std::int32_t number, const std::string& text, std::string cause = {})
+      : std::runtime_error(text), number_(number), cause_(std::move(cause)) {}
 
   std::int32_t Number() const { return number_; }
   std::string Text() const { return what(); }
+  const std::string& Cause() const { return cause_; }
 
  private:
   std::int32_t number_;
+  std::string cause_;
 };
 
 /// Raises `number` with its fixed text.

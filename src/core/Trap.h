@@ -28,7 +28,7 @@ bool Trap(Reporter& reporter, std::string_view label, Body&& body, std::string_v
     std::forward<Body>(body)();
     return true;
   } catch (const RuntimeError& error) {
-    reporter.Report(ReportText(label, error, closing));
+    reporter.ReportWithCause(ReportText(label, error, closing), error.Cause());
     return false;
   }
 }

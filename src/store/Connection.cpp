@@ -31,8 +31,14 @@ int Connection::State() const {
 
 void Connection::Open(const std::string&, const std::string&) {
   if (session_) throw store::error::ObjectOpen();
-  if (!IsFileProvider(ConnectionString)) throw store::error::NoServer();
-  session_ = std::make_unique<store::Session>(engine_.Internals(), DataSource(ConnectionString));
+  failure_.clear();
+  try {
+    if (!IsFileProvider(ConnectionString)) throw store::error::NoServer();
+    session_ = std::make_unique<store::Session>(engine_.Internals(), DataSource(ConnectionString));
+  } catch (const RuntimeError& error) {
+    failure_ = error.Text();
+    throw;
+  }
 }
 
 void Connection::Close() {
@@ -41,7 +47,7 @@ void Connection::Close() {
 }
 
 store::Session& Connection::Use() {
-  if (!session_) throw store::error::ConnectionInvalid();
+  if (!session_) throw store::error::ConnectionInvalid(failure_);
   return *session_;
 }
 

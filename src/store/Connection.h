@@ -33,12 +33,13 @@ class Connection {
   /// Raises 3704 if it is closed.
   void Close();
 
-  /// The open file, for Recordset and Command. Raises 3709 if it is closed.
+  /// The open file, for Recordset and Command. Raises 3709 if it is closed; its cause is why the last Open failed.
   store::Session& Use();
 
  private:
   Engine& engine_;
   std::unique_ptr<store::Session> session_;
+  std::string failure_;  ///< of the last Open
 };
 
 }  // namespace norvane

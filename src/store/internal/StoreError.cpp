@@ -5,8 +5,8 @@
 namespace norvane::store::error {
 namespace {
 
-RuntimeError Make(StoreErrorNumber number, const std::string& text) {
-  return RuntimeError(static_cast<std::int32_t>(number), text);
+RuntimeError Make(StoreErrorNumber number, const std::string& text, std::string cause = {}) {
+  return RuntimeError(static_cast<std::int32_t>(number), text, std::move(cause));
 }
 
 std::string Quoted(std::string_view text) {
@@ -34,10 +34,11 @@ RuntimeError ObjectOpen() {
   return Make(StoreErrorNumber::ObjectOpen, "Operation is not allowed when the object is open.");
 }
 
-RuntimeError ConnectionInvalid() {
+RuntimeError ConnectionInvalid(std::string cause) {
   return Make(StoreErrorNumber::ConnectionInvalid,
               "The connection cannot be used to perform this operation. It is either closed or invalid in this "
-              "context.");
+              "context.",
+              std::move(cause));
 }
 
 RuntimeError NoStatement() {
@@ -152,16 +153,16 @@ RuntimeError FileInUse(std::string_view file) {
   return Make(StoreErrorNumber::Refused, "Could not use " + Quoted(file) + "; file already in use.");
 }
 
-RuntimeError ReadOnly() {
-  return Make(StoreErrorNumber::Refused, "Cannot update.  Database or object is read-only.");
+RuntimeError ReadOnly(std::string cause) {
+  return Make(StoreErrorNumber::Refused, "Cannot update.  Database or object is read-only.", std::move(cause));
 }
 
-RuntimeError UnrecognizedFormat(std::string_view file) {
-  return Make(StoreErrorNumber::Refused, "Unrecognized database format " + Quoted(file) + ".");
+RuntimeError UnrecognizedFormat(std::string_view file, std::string cause) {
+  return Make(StoreErrorNumber::Refused, "Unrecognized database format " + Quoted(file) + ".", std::move(cause));
 }
 
-RuntimeError DiskOrNetwork() {
-  return Make(StoreErrorNumber::Refused, "Disk or network error.");
+RuntimeError DiskOrNetwork(std::string cause) {
+  return Make(StoreErrorNumber::Refused, "Disk or network error.", std::move(cause));
 }
 
 RuntimeError NoServer() {

@@ -33,7 +33,7 @@ RuntimeError NoCurrentRecord();
 RuntimeError ItemNotFound();
 RuntimeError ObjectClosed();
 RuntimeError ObjectOpen();
-RuntimeError ConnectionInvalid();
+RuntimeError ConnectionInvalid(std::string cause = {});
 RuntimeError NoStatement();
 RuntimeError MissingParameter();
 RuntimeError TypeMismatchInCriteria();
@@ -63,9 +63,9 @@ RuntimeError NotUpdatable();
 RuntimeError RowIsGone();
 RuntimeError FileNotFound(std::string_view file);
 RuntimeError FileInUse(std::string_view file);
-RuntimeError ReadOnly();
-RuntimeError UnrecognizedFormat(std::string_view file);
-RuntimeError DiskOrNetwork();
+RuntimeError ReadOnly(std::string cause = {});
+RuntimeError UnrecognizedFormat(std::string_view file, std::string cause = {});
+RuntimeError DiskOrNetwork(std::string cause = {});
 RuntimeError NoServer();
 
 }  // namespace error

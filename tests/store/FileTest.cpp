@@ -1,6 +1,8 @@
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
 #include "store/StoreTest.h"
 #include "store/internal/Sqlite.h"
@@ -160,12 +162,34 @@ TEST_F(FileTest, RollsBackWhatACrashLeft) {
   EXPECT_FALSE(fs::exists(crashed.string() + "-journal"));
 }
 
-TEST_F(FileTest, TellsAFullDiskApart) {
-  EXPECT_EQ(store::ErrorOf(SQLITE_FULL, "f").Number(), 61);
-  EXPECT_EQ(store::ErrorOf(SQLITE_IOERR_READ, "f").Text(), "Disk or network error.");
+/// The system refuses to write beyond a limit, as it does on a disk that fails.
+TEST_F(FileTest, ReportsADiskThatRefusesToWrite) {
+  auto connection = ConnectionTo(engine, database.File().string());
+  connection->Open();
+  struct rlimit limit = {};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const struct rlimit nothing = {0, limit.rlim_max};
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &nothing);
+  const std::string error = ErrorOf([&] { Run(*connection, "delete * from tb_PaymentTypes"); });
+  setrlimit(RLIMIT_FSIZE, &limit);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(error, "-2147467259 Disk or network error.");
 }
 
-TEST_F(FileTest, LearnsTheTablesAnewWhenTheyChange) {
+TEST_F(FileTest, KeepsTheReasonWhyAConnectionIsClosed) {
+  auto connection = ConnectionTo(engine, (database.Folder() / "none.mdb").string());
+  EXPECT_THROW(connection->Open(), RuntimeError);
+  try {
+    connection->Use();
+    FAIL();
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Number(), 3709);
+    EXPECT_THAT(error.Cause(), testing::StartsWith("Could not find file '"));
+  }
+}
+
+TEST_F(FileTest, ReadsTheTablesAgainWhenTheyChange) {
   auto connection = ConnectionTo(engine, database.File().string());
   connection->Open();
   Run(*connection, "select * from tb_Client");

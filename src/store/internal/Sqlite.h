@@ -18,15 +18,12 @@ struct FinalizeStatement {
 using DatabaseHandle = std::unique_ptr<sqlite3, CloseDatabase>;
 using StatementHandle = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-/// The store's error for a code of SQLite; `file` is the name that the texts show.
-RuntimeError ErrorOf(int code, const std::string& file);
+/// The store's error for what SQLite refused last on that database; `file` is the name that the texts show.
+RuntimeError LastError(sqlite3* database, const std::string& file);
 
-/// Whether the last statement was refused because its expressions are nested deeper than SQLite reads.
-bool IsTooDeep(sqlite3* database);
-
-/// Raises what ErrorOf gives, and that the query is too complex if it is too deep.
+/// Raises LastError, as the next one does.
 StatementHandle Prepare(sqlite3* database, const std::string& sql, const std::string& file);
-/// True on a row, False at the end. Raises what ErrorOf gives.
+/// True on a row, False at the end.
 bool Step(sqlite3_stmt* statement, const std::string& file);
 /// Valid until the next step.
 std::string_view ColumnText(sqlite3_stmt* statement, int column);

@@ -4,9 +4,9 @@
 
 namespace norvane {
 
-void cSetup::GetCompanyInfo() {
-  Trapped("cSetup.GetCompanyInfo -", [&] {
-    const auto row = Read("select * from tb_Company");
+bool cSetup::GetCompanyInfo() {
+  return Trapped("cSetup.GetCompanyInfo -", [&] {
+    const auto row = ReadRecord("select * from tb_Company", [this] { Clear(); });
     if (row->Eof()) return;
     Name = RequiredText(*row, "Name");
     Address1 = row->Text("Address1");
@@ -19,6 +19,13 @@ void cSetup::GetCompanyInfo() {
     WebSite = row->Text("WebSite");
     Statetaxrate = row->Double("Statetaxrate");
   });
+}
+
+void cSetup::Clear() {
+  for (std::string* text : {&Name, &Address1, &Address2, &City, &State, &ZipCode, &Phone, &Fax, &WebSite}) {
+    text->clear();
+  }
+  Statetaxrate = 0;
 }
 
 void cSetup::SaveCompanyInfo() {

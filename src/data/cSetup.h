@@ -17,10 +17,11 @@ class cSetup : public DataObject {
   std::string Phone, Fax, WebSite;
   double Statetaxrate = 0;  ///< percent
 
-  /// Reads the company's row. Without one the properties keep what they hold.
-  void GetCompanyInfo();
-  /// Replaces the company's row. Errors are ignored, so a refused insert leaves none, without a word; every save adds a
-  /// blank to the stored Address2.
+  /// Reads the company's row. Without one the properties keep what they hold; if the read fails they are empty, and the
+  /// result is False: a save would then put nothing in the place of the row.
+  bool GetCompanyInfo();
+  /// Replaces the company's row. Errors are ignored, so a refused insert leaves no row and no report; every save adds a
+  /// space to the stored Address2.
   void SaveCompanyInfo();
 
   Object<Recordset> rsPaymentTypes();
@@ -37,6 +38,7 @@ class cSetup : public DataObject {
   void DeleteShippingType(const std::string& shipType, const std::string& shipWeight);
 
  private:
+  void Clear();
   static std::string ShippingDeletion(const std::string& service, const std::string& option);
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 using Order = RegionalSettings::DateOrder;
 
-/// A number from here on can only be a year, and is one as it stands.
+/// A number from here on can only be a year, and needs no century.
 constexpr int kWrittenOutYear = 100;
 constexpr int kLastDayOfMonth = 31;
 
@@ -58,7 +58,7 @@ class DateReader {
  private:
   bool ReadPart() { return IsDigit(rest_.front()) ? ReadNumberOrTime() : ReadName(); }
 
-  /// One mark between two parts, blanks around it. Behind the last part none may stand.
+  /// One mark between two parts, with whitespace around it. None may follow the last part.
   bool SkipSeparator() {
     SkipWhitespace(rest_);
     if (!TakeSeparator()) return true;
@@ -66,7 +66,7 @@ class DateReader {
     return !rest_.empty();
   }
 
-  /// A comma stands beside names only: 1,234 is a number.
+  /// A comma is allowed beside names only: 1,234 is a number.
   bool TakeSeparator() {
     return Take(rest_, "/") || Take(rest_, "-") || Take(rest_, settings_.dateSeparator) || (named_ && Take(rest_, ","));
   }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kSecondsOfDay = 86'400;
 
-/// A date taken apart into its day and the second of that day.
+/// A date as its day and the second of that day.
 struct Moment {
   Date day;
   int second = 0;

@@ -9,7 +9,7 @@
 namespace norvane {
 
 /// Writes a date in a format of d dd ddd dddd M MM MMM MMMM yy yyyy h hh H HH mm ss AMPM; text between apostrophes
-/// and everything else stands as it is. The time is rounded to the second. Raises 6 for what is no date.
+/// and everything else is literal. The time is rounded to the second. Raises 6 for what is no date.
 std::string FormatDate(Date date, std::string_view format, const RegionalSettings& settings);
 
 /// The default text: the short date, followed by the time if there is one; of day 0 the time alone.

@@ -54,14 +54,14 @@ std::string WholeDigits(const Decimal& decimal, std::string_view separator) {
 }
 
 bool TakeThousandsSeparator(std::string_view& text, std::string_view separator) {
-  // People type an ordinary blank where the locale writes a fixed one.
+  // People type an ordinary space where the locale writes a fixed one.
   if (WhitespaceLength(separator) == 0) return Take(text, separator);
   const std::size_t length = WhitespaceLength(text);
   text.remove_prefix(length);
   return length > 0;
 }
 
-/// Reads the exponent behind the digits; 0, and nothing cut off, if none stands there.
+/// Reads the exponent after the digits; 0, and the text unchanged, if there is none.
 int ScanExponent(std::string_view& text) {
   std::string_view rest = text;
   if (rest.empty() || ToLower(rest.front()) != 'e') return 0;

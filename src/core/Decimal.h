@@ -10,7 +10,7 @@ namespace norvane {
 
 /// A number as its decimal digits: 0.d1d2d3... times ten to the `point`. Zero has no digits.
 ///
-/// Between text and values stands this form, so that text is rounded on the digits that the user sees.
+/// Conversions between text and values go through this form, so that text is rounded on the digits that the user sees.
 struct Decimal {
   bool negative = false;
   std::string digits;  ///< without zeros at either end
@@ -44,7 +44,7 @@ std::string PlainText(const Decimal& decimal, std::string_view decimalPoint);
 std::string ExponentText(const Decimal& decimal, std::string_view decimalPoint);
 
 /// Reads digits, marks and an exponent with e or E from the front of the text and cuts them off; no sign. Nothing, and
-/// the text as it was, if no digit stands there.
+/// the text unchanged, if there is no digit.
 std::optional<Decimal> ScanDecimal(std::string_view& text, const NumberMarks& marks);
 
 }  // namespace norvane

@@ -10,14 +10,14 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// One line of the file as it stands, with what it means.
+/// One line of the file and what it means.
 struct Line {
   enum class Kind { Section, Entry, Other };
 
   std::string_view whole;  ///< with its line end
   Kind kind = Kind::Other;
   std::string_view name;   ///< of the section, or the key
-  std::string_view value;  ///< all that stands behind the equals sign, blanks included
+  std::string_view value;  ///< all that follows the equals sign, whitespace included
 
   Line(std::string_view text, bool first) : whole(text) {
     text.remove_suffix(LineEnd().size());
@@ -73,7 +73,7 @@ const Line* FindEntry(const std::vector<Line>& lines, const Section& section, st
   return nullptr;
 }
 
-/// Quotes around a value keep its blanks and are no part of it.
+/// Quotes around a value keep its whitespace and are no part of it.
 std::string_view Unquoted(std::string_view value) {
   const bool quoted =
       value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
@@ -90,13 +90,13 @@ bool CanBeWritten(std::string_view section, std::string_view key, std::string_vi
          !key.empty() && key.find('=') == std::string_view::npos && !key.starts_with(';') && !key.starts_with('[');
 }
 
-/// The line end that the file goes by.
+/// The line end that the file uses.
 std::string LineEndOf(const std::vector<Line>& lines) {
   const std::string_view end = lines.empty() ? std::string_view() : lines.front().LineEnd();
   return std::string(end.empty() ? "\n" : end);
 }
 
-/// The end of the section's last line with anything on it; the blank lines ahead of the next section stay there.
+/// The end of the section's last line with anything on it; the empty lines before the next section stay there.
 std::size_t EndOfEntries(std::string_view content, const std::vector<Line>& lines, const Section& section) {
   std::size_t last = section.last;
   while (last > section.first && lines[last - 1].IsBlank()) --last;

@@ -13,12 +13,12 @@ constexpr std::string_view kDateMarks = "/-. ";
 
 using Order = RegionalSettings::DateOrder;
 
-// The places of the sign of money in `lconv`; 1 and whatever else is told put it first.
+// The places of the sign of money in `lconv`; 1 and all others put it first.
 constexpr int kParentheses = 0;
 constexpr int kSignLast = 2;
 constexpr int kSignBeforeSymbol = 3;
 constexpr int kSignBehindSymbol = 4;
-/// The one kind of blank that stands between symbol and sign, where these are neighbours.
+/// The one kind of space between symbol and sign, where these are neighbours.
 constexpr int kBlankAtSign = 2;
 
 void SetIfTold(std::string& setting, const std::string& fact) {
@@ -40,7 +40,7 @@ std::string MoneyPattern(const LocaleFacts::MoneyLayout& layout, const std::stri
   return layout.signPlace == kSignLast ? amount + sign : sign + amount;
 }
 
-/// Adds what stands between two numbers. Characters that no date is typed with become one dash.
+/// Adds the separator between two numbers. Characters that no date is typed with become one dash.
 void AddMark(std::string& text, char mark) {
   if (kDateMarks.find(mark) != std::string_view::npos) {
     text += mark;
@@ -75,7 +75,7 @@ std::string ShortDateOf(std::string_view format) {
       format.remove_prefix(1);
     }
   }
-  // Some end in a point, which nobody types.
+  // Some end in a point, which no one types.
   text.erase(text.find_last_not_of(kDateMarks) + 1);
   return text;
 }
@@ -100,7 +100,7 @@ const char* LongDateOf(Order order) {
   return "dddd, MMMM d, yyyy";
 }
 
-/// Where the first field of one of these letters stands, %d or %-d; npos if there is none.
+/// The place of the first conversion with one of these letters, %d or %-d; npos if there is none.
 std::size_t FindField(std::string_view format, std::string_view letters) {
   for (std::size_t at = format.find('%'); at != std::string_view::npos; at = format.find('%', at + 2)) {
     std::string_view field = format.substr(at + 1);

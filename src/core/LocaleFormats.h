@@ -15,7 +15,7 @@ struct LocaleFacts {
   std::string moneyThousandsSeparator;
   std::string currencySymbol;
 
-  /// How one sign of money is laid out; the numbers are those of the platform's `lconv`, -1 for not told.
+  /// How one sign of money is laid out; the numbers are those of the platform's `lconv`, -1 for not given.
   struct MoneyLayout {
     int symbolFirst = -1;
     int blankBetween = -1;
@@ -24,7 +24,7 @@ struct LocaleFacts {
   MoneyLayout positive;
   MoneyLayout negative;
 
-  std::string dateFormat;  ///< in the letters of `strftime`, as is the time's
+  std::string dateFormat;  ///< in the conversions of `strftime`, as is the time's
   std::string timeFormat;
   std::string dateAndTimeFormat;  ///< often with the month's name
   std::string am;

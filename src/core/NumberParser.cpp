@@ -6,7 +6,7 @@
 namespace norvane {
 namespace {
 
-/// What stands around the digits. Each may stand there once, in any order.
+/// What may surround the digits: each once, in any order.
 struct Surroundings {
   bool sign = false;
   bool minus = false;

@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-/// Reads a whole text as a number: blanks around it, one sign before or after, one currency symbol, parentheses for
+/// Reads a whole text as a number: whitespace around it, one sign before or after, one currency symbol, parentheses for
 /// negative, thousands separators left of the point, an exponent. Nothing if it is anything else.
 std::optional<Decimal> ParseNumber(std::string_view text, const RegionalSettings& settings);
 

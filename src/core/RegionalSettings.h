@@ -13,7 +13,7 @@ struct RegionalSettings {
   std::string currencyDecimalPoint = ".";
   std::string currencyThousandsSeparator = ",";
 
-  /// Where symbol and sign stand: %s the symbol, %n the amount, as in "%s%n" and "(%s%n)".
+  /// The places of symbol and sign: %s the symbol, %n the amount, as in "%s%n" and "(%s%n)".
   std::string positiveCurrency = "%s%n";
   std::string negativeCurrency = "(%s%n)";
 
@@ -24,7 +24,7 @@ struct RegionalSettings {
   std::string shortDate = "M/d/yyyy";
   /// The long date, of d dd ddd dddd M MM MMM MMMM yy yyyy and literals between apostrophes.
   std::string longDate = "dddd, MMMM d, yyyy";
-  /// The time behind a date, of h hh H HH mm ss AMPM.
+  /// The time after a date, of h hh H HH mm ss AMPM.
   std::string time = "h:mm:ss AMPM";
   std::string am = "AM";
   std::string pm = "PM";

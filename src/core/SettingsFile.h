@@ -7,7 +7,7 @@
 namespace norvane {
 
 /// Reads one value of a profile file: at most 255 bytes, cut at a character's boundary. The default if file, section
-/// or key is missing. Sections and keys match without regard to case; blanks around key and value do not count.
+/// or key is missing. Sections and keys match without regard to case; whitespace around key and value does not count.
 std::string GetIniString(std::string_view section, std::string_view key, std::string_view fallback,
                          const std::filesystem::path& file);
 

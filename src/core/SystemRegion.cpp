@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kLastTwoDigitYear = 2049;
 
-/// A locale that is in force for this thread as long as the guard lives; the C library tells of no other. Nothing is in
+/// Makes a locale the current one of this thread while the guard lives: the C library describes no other. Nothing is in
 /// force if there is no such locale.
 class LocaleGuard {
  public:
@@ -39,7 +39,7 @@ class LocaleGuard {
 std::string Utf8(const char* text) {
   std::string from(text);
   const iconv_t converter = iconv_open("UTF-8", nl_langinfo(CODESET));
-  if (converter == reinterpret_cast<iconv_t>(-1)) return {};  // NOLINT(performance-no-int-to-ptr): as it tells failure
+  if (converter == reinterpret_cast<iconv_t>(-1)) return {};  // NOLINT(performance-no-int-to-ptr): its sign of failure
   std::string to(from.size() * 4, '\0');
   char* in = from.data();
   char* out = to.data();

@@ -9,10 +9,10 @@
 
 namespace norvane {
 
-/// The closing words of the standard report, behind the error's text.
+/// The end of the standard report, after the error's text.
 inline constexpr std::string_view kStandardClosing = ".  If error persists contact Norvanes author.";
 
-/// The text of a report: label, number, a blank, the error's text, the closing words.
+/// The text of a report: label, number, a space, the error's text, the closing words.
 std::string ReportText(std::string_view label, const RuntimeError& error, std::string_view closing = kStandardClosing);
 
 /// Runs `body` as a procedure under the standard error trap: on an error it reports once under `label` and leaves the
@@ -40,7 +40,7 @@ void IgnoringErrors(Statements&&... statements) {
     try {
       statement();
     } catch (const RuntimeError&) {
-      // This is what ignoring means: nothing is told and nothing is undone.
+      // Ignoring means that nothing is reported and nothing is undone.
     }
   };
   (passOver(std::forward<Statements>(statements)), ...);

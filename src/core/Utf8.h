@@ -15,14 +15,14 @@ namespace internal {
 Character LongCharacterAt(std::string_view text, std::size_t place);
 }  // namespace internal
 
-/// The character at a place below the text's end. A byte that begins no well-formed character stands for itself as the
+/// The character at a place below the text's end. A byte that begins no well-formed character counts as one
 /// replacement character, so that damaged text never stops a report.
 inline Character CharacterAt(std::string_view text, std::size_t place) {
   const auto first = static_cast<unsigned char>(text[place]);
   return first < 0x80 ? Character{first, 1} : internal::LongCharacterAt(text, place);
 }
 
-/// What the eye takes for one character: with the marks that are set over it and what is joined to it. In bytes.
+/// The bytes of what is seen as one character, with the marks set over it and what is joined to it.
 std::size_t ClusterLength(std::string_view text, std::size_t place);
 
 std::size_t CharacterCount(std::string_view text);

@@ -12,7 +12,7 @@
 namespace norvane {
 namespace {
 
-/// The text without the blanks, which count nowhere.
+/// The text without whitespace, which counts nowhere.
 std::string Condensed(std::string_view text) {
   std::string condensed;
   std::copy_if(text.begin(), text.end(), std::back_inserter(condensed),
@@ -26,7 +26,7 @@ int DigitOf(char c, int base) {
   return digit < base ? digit : -1;
 }
 
-/// The number behind &H or &O: the bits of a 16-bit number or, where they do not suffice or an & follows, of a 32-bit
+/// The number after &H or &O: the bits of a 16-bit number or, where they do not suffice or an & follows, of a 32-bit
 /// one. So &HFFFF is -1 and &HFFFF& 65535.
 double RadixNumber(std::string_view digits, int base) {
   std::uint64_t number = 0;
@@ -45,7 +45,7 @@ double Val(std::string_view text) {
   std::string_view rest = condensed;
   if (StartsWithNoCase(rest, "&H")) return RadixNumber(rest.substr(2), 16);
   if (StartsWithNoCase(rest, "&O")) return RadixNumber(rest.substr(2), 8);
-  // An exponent may stand behind a d as well.
+  // An exponent may follow a d as well.
   std::replace_if(
       condensed.begin(), condensed.end(), [](char c) { return ToLower(c) == 'd'; }, 'e');
   const bool negative = rest.starts_with('-');

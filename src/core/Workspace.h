@@ -15,7 +15,7 @@ class Conversions;
 class Engine;
 class Reporter;
 
-/// What every record class works within. Owned by the program; nothing here is owned by whoever holds a reference.
+/// What every record class works within. Owned by the program.
 struct Workspace {
   Globals& globals;
   Engine& engine;      ///< the store

@@ -16,7 +16,7 @@ struct Client::TextColumn {
   std::string Client::*property;
 };
 
-// In the order of reading. A Discount that is Null ends the reading there, so what comes after it is told apart.
+// In the order of reading. A Null Discount ends the reading there, so the columns after it are listed separately.
 const Client::TextColumn Client::kColumnsBeforeDiscount[] = {
     {"Lname", &Client::lname},
     {"Fname", &Client::fname},

@@ -27,7 +27,7 @@ struct NumberedTable {
 /// What all record classes share: a connection of their own, and the few ways of reading and writing through it.
 ///
 /// Callers bracket every use with OpenCn and CloseCn, so that the file is closed between operations. An operation
-/// reports its own errors under its label and returns what it had by then: nothing, zero or an empty text.
+/// reports its own errors under its label and returns its result so far: nothing, zero or an empty text.
 class DataObject {
  public:
   DataObject(const DataObject&) = delete;
@@ -38,7 +38,7 @@ class DataObject {
   /// Names a server's database instead.
   void Init(const std::string& userId, const std::string& password, const std::string& database,
             const std::string& server);
-  /// Opens the connection if it is closed. A failure isn't told here: it is the error of the first statement after it.
+  /// Opens the connection if it is closed. A failure isn't reported here: the first statement after it raises it.
   void OpenCn();
   /// Closes the connection, however often it was opened before.
   void CloseCn();
@@ -86,7 +86,7 @@ class DataObject {
   /// Saves a row whole: the old one goes, the new one comes. Nothing binds the two, so an insert that is refused leaves
   /// the row deleted.
   void Replace(std::string_view deletion, std::string_view insertion);
-  /// The key after the highest present; the first one in an empty table. A highest key that was deleted is given out
+  /// The key after the highest present; the first one in an empty table. A highest key that was deleted is used
   /// again, unless a refused save has removed its row. Raises 6 past the last Long.
   std::int32_t NextKey(const NumberedTable& table);
   /// Runs `replace`, which saves a row under a number that the caller has. If it is refused the number stays that

@@ -29,7 +29,7 @@ class Inventory : public DataObject {
   Object<Recordset> rsInventory(std::int32_t category);
   /// All categories by number: catnum, description.
   Object<Recordset> rsCategories();
-  /// Loads the properties of an item, Warranty left as it is. An unknown number makes this a blank item with the next
+  /// Loads the properties of an item, Warranty left as it is. An unknown number makes this an empty item with the next
   /// free number.
   void GetItem(std::int32_t itemNumber);
   /// Saves the properties as the row of `itemNum`. 0 asks for the next free number, which is passed back; it stays 0 if

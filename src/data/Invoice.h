@@ -12,8 +12,8 @@ namespace norvane {
 
 /// One invoice, one of its lines and one client payment, and all access to their tables.
 ///
-/// The properties carry over from one use to the next. Whoever saves sets all that the save writes, TransNum and PayNum
-/// among them, 0 for a new line or payment.
+/// The properties carry over from one use to the next. The caller of a save sets all that it writes, TransNum and
+/// PayNum among them, 0 for a new line or payment.
 class Invoice : public DataObject {
  public:
   /// Dates are today.
@@ -55,17 +55,17 @@ class Invoice : public DataObject {
   Object<Recordset> GetAllInvoices(Date sinceDate);
   /// The same of one client.
   Object<Recordset> GetCustInvoices(std::int32_t custNum, Date sinceDate);
-  /// Fills the invoice's properties. An unknown number blanks them, but for Discount, and InvoiceNum is then the next
+  /// Fills the invoice's properties. An unknown number clears them, except Discount, and InvoiceNum is then the next
   /// free number.
   void GetInvoice(std::int32_t invoiceNum);
   /// Saves the invoice's properties: deletes the row of `invoiceNum` and inserts one under the property InvoiceNum.
   void SaveInvoiceAccess(std::int32_t invoiceNum);
-  /// Deletes the invoice, gives the stock of its lines back item by item, then deletes the lines. A line whose item is
-  /// gone ends it there.
+  /// Deletes the invoice, returns the stock of its lines item by item, then deletes the lines. A line whose item is
+  /// gone ends the deletion there.
   void DeleteInvoice(std::int32_t invoiceNum);
   /// Puts the next free number into InvoiceNum.
   void GetnewInvoiceNum();
-  /// (S - Discount/100 x S) + ShippingCharge + Interest + Tax, S being the sum of the lines; reckoned in floating point
+  /// (S - Discount/100 x S) + ShippingCharge + Interest + Tax, S being the sum of the lines; computed in floating point
   /// and rounded once, at the end, to four decimals. S alone if there is no such invoice or after a report.
   Currency InvoiceTotal(std::int32_t invoiceNum);
 
@@ -74,7 +74,7 @@ class Invoice : public DataObject {
   /// Saves the line's properties, which empties its order date. TransNum 0 becomes the next free number; it stays 0 if
   /// there is none or the new line is refused.
   void SaveTransAccess();
-  /// Deletes a line. No stock is given back.
+  /// Deletes a line. No stock is returned.
   void DeleteInvoiceItem(std::int32_t transNum);
   /// The next free number of a line.
   std::int32_t NewTransNum();

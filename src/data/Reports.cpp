@@ -20,7 +20,7 @@ Currency Reports::Payments(const std::string& category) {
   });
 }
 
-// Unlike Payments this has no guard: a period in which nothing was received is told as an error.
+// Unlike Payments this has no guard: a period in which nothing was received is reported as an error.
 Currency Reports::Receipts() {
   return Result("Reports.Receipts -", [&] {
     return Read(sql::Statement("SELECT sum(Amount) as TotalReceived from tb_Receive where [date] >= ", BegDate,

@@ -43,7 +43,7 @@ void AppendValue(std::string& statement, const T& value) {
 
 }  // namespace detail
 
-/// A statement joined from its parts: texts as they stand, so that apostrophes around a value belong to the parts
+/// A statement joined from its parts: texts unchanged, so that apostrophes around a value belong to the parts
 /// beside it; numbers and Booleans bare and dates between hash signs, in United States form.
 template <class... Parts>
 std::string Statement(const Parts&... parts) {
@@ -53,7 +53,7 @@ std::string Statement(const Parts&... parts) {
 }
 
 /// An insert: `head` up to the opening parenthesis, the values with commas between them, the closing one. Texts
-/// stand between apostrophes, as they are.
+/// are put between apostrophes unchanged.
 template <class First, class... Rest>
 std::string Insert(std::string_view head, const First& first, const Rest&... rest) {
   std::string statement(head);

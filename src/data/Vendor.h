@@ -42,7 +42,7 @@ class Vendor : public DataObject {
   Object<Recordset> GetVendorRS(std::int32_t) { return {}; }
   /// All vendors by company: company, vendornum.
   Object<Recordset> GetAllVendors();
-  /// Loads the first vendor of that company. An unknown one blanks the properties, and VendorNum is then the next free
+  /// Loads the first vendor of that company. An unknown one clears the properties, and VendorNum is then the next free
   /// number.
   void GetVendor(const std::string& company);
   /// Deletes the company's whole ledger, cleared or not, then the vendor. Nothing if there is no such vendor.

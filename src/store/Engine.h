@@ -18,7 +18,7 @@ class SoleUse {
 };
 
 /// The store behind all connections of one program: what is known of each file's tables, the translations of statements
-/// seen before, and how many connections stand open on which file.
+/// seen before, and how many connections each file has.
 class Engine {
  public:
   Engine();
@@ -26,7 +26,7 @@ class Engine {
   Engine(const Engine&) = delete;
   Engine& operator=(const Engine&) = delete;
 
-  /// How many connections of this program stand open on the file.
+  /// How many connections of this program are open on the file.
   int OpenConnections(const std::filesystem::path& file) const;
 
   /// Takes the file alone, for what replaces, deletes, repairs or compacts it. Nothing if a connection of this program

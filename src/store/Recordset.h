@@ -41,7 +41,7 @@ class Recordset {
   /// 0 closed, 1 open.
   int State() const;
 
-  /// Past the last row, which is where an empty recordset stands from the start.
+  /// Past the last row, which is where an empty recordset is from the start.
   bool Eof() const;
   /// Exact; 0 of a recordset that was never opened.
   std::int32_t RecordCount() const;
@@ -49,7 +49,7 @@ class Recordset {
   void MoveNext();
   /// An independent cursor over the same rows, on the first of them; it outlives this recordset.
   std::shared_ptr<Recordset> Clone() const;
-  /// "<column> [desc], ...": stable, text without regard to case, Null first; then stands on the first row.
+  /// "<column> [desc], ...": stable, text without regard to case, Null first; then moves to the first row.
   void Sort(std::string_view order);
 
   int FieldCount() const;

@@ -25,7 +25,7 @@ FieldType DeclaredType(std::string_view declaration) {
   return FieldType::Text;
 }
 
-/// Adds one column to the schema, as a row of pragma_table_info tells.
+/// Adds one column to the schema, from a row of pragma_table_info.
 void AddColumn(TableSchema& schema, sqlite3_stmt* row) {
   schema.columns.push_back({std::string(ColumnText(row, 0)), DeclaredType(ColumnText(row, 1))});
   const auto placeInKey = static_cast<std::size_t>(sqlite3_column_int(row, 2));

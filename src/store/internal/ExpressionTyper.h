@@ -14,7 +14,7 @@ struct Typed {
   enum class Kind { Sql, Literal, Null };
   Kind kind = Kind::Sql;
   FieldType type = FieldType::Text;
-  std::string sql;  ///< none for a literal, whose parameter depends on where it stands
+  std::string sql;  ///< none for a literal, whose parameter depends on its context
   syntax::Constant literal{};
 };
 
@@ -31,7 +31,7 @@ class ExpressionTyper {
   /// A value to put into a column.
   std::string Stored(const syntax::Expression& expression, FieldType column);
 
-  /// Whether sum and max may stand in the expressions that follow.
+  /// Whether sum and max are allowed in the expressions that follow.
   void AllowAggregates(bool allowed) { aggregatesAllowed_ = allowed; }
 
  private:
@@ -60,7 +60,7 @@ class ExpressionTyper {
 /// A text's sort key, as the function that the store adds to SQLite gives it.
 std::string FoldedSql(const std::string& sql);
 
-/// Whether sum or max stands in the expression.
+/// Whether the expression contains sum or max.
 bool HasAggregate(const syntax::Expression& expression);
 
 }  // namespace norvane::store

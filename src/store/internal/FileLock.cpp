@@ -59,7 +59,7 @@ FileLock::Attempt FileLock::Try(const std::filesystem::path& file, Kind kind) {
   descriptor_ = ::open(file.c_str(), (sole ? O_RDWR : O_RDONLY) | O_NONBLOCK | O_CLOEXEC);
   if (descriptor_ < 0) return sole && errno != ENOENT ? Attempt::Refused : Attempt::Held;
   if (!Lock(descriptor_, sole ? F_WRLCK : F_RDLCK)) return IsExcluded(errno) ? Attempt::Excluded : Attempt::Held;
-  // Whoever held it may have put another file in its place.
+  // The program that held it may have put another file in its place.
   struct stat opened = {};
   struct stat named = {};
   const bool same = ::fstat(descriptor_, &opened) == 0 && ::stat(file.c_str(), &named) == 0 &&

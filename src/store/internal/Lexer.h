@@ -23,7 +23,7 @@ enum class TokenKind {
 
 struct Token {
   TokenKind kind = TokenKind::End;
-  std::string_view source;  ///< as it stands in the statement
+  std::string_view source;  ///< as written in the statement
   std::size_t offset = 0;   ///< of its first byte in the statement
   int literal = -1;         ///< which literal of the statement it is, if it is one
 };

@@ -217,7 +217,7 @@ class StatementParser {
     return expression;
   }
 
-  /// Whether a second operand stands where an operator should: what an apostrophe inside a text leaves behind.
+  /// Whether a second operand is where an operator should be, as after an apostrophe inside a text.
   bool StartsOperand() const {
     switch (Current().kind) {
       case TokenKind::Name:

@@ -19,7 +19,7 @@ class Criterion {
     for (std::size_t row = 0; row < rows.Count(); ++row) FoldKey(rows.Text(row, column), keys_[row]);
   }
 
-  /// Below, at or above zero as row `a` comes before, beside or behind row `b`.
+  /// Below, at or above zero as row `a` comes before, with or after row `b`.
   int Compare(std::uint32_t a, std::uint32_t b) const { return descending_ ? -Ascending(a, b) : Ascending(a, b); }
 
  private:
@@ -44,7 +44,7 @@ class Criterion {
   std::vector<std::string> keys_;
 };
 
-/// Cuts `word` off the end if it stands there behind a blank.
+/// Removes `word` from the end of the text if it is there after a space.
 bool TakeLastWord(std::string_view& text, std::string_view word) {
   if (text.size() <= word.size() || !EqualNoCase(text.substr(text.size() - word.size()), word)) return false;
   if (text[text.size() - word.size() - 1] != ' ') return false;

@@ -27,7 +27,7 @@ void AppendBytes(std::string& bytes, std::string_view field) {
   bytes += field;
 }
 
-/// The field that begins at `place`, which is then moved behind it.
+/// The field that begins at `place`, which is then moved past it.
 std::string_view TakeBytes(std::string_view bytes, std::size_t& place) {
   const auto head = static_cast<unsigned char>(bytes[place++]);
   if (head == kNull) return {};
@@ -127,7 +127,7 @@ void Rows::AppendValue(const Value& value) {
   std::visit(Append{bytes_}, value);
 }
 
-// The row is written anew behind the others; the room of the old one is lost unless it was the last.
+// The row is written again after the others; the space of the old one is lost unless it was the last.
 void Rows::Change(std::size_t row, const std::vector<std::optional<Value>>& values) {
   std::vector<Value> changed;
   changed.reserve(columns_.size());

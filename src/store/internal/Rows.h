@@ -15,7 +15,7 @@ namespace norvane::store {
 
 /// The rows of a result in memory, packed: lists stay in memory as long as the screens that show them.
 ///
-/// A field takes its length and then only the bytes that say something: those of a text, the low ones of a whole
+/// A field takes its length and then only the bytes that matter: those of a text, the low ones of a whole
 /// number, the high ones of a double. So a list weighs about as much as its texts.
 class Rows {
  public:
@@ -32,7 +32,7 @@ class Rows {
   void AppendEmpty();
   /// Gives a row the values that are there, each a Null or of its column's type.
   void Change(std::size_t row, const std::vector<std::optional<Value>>& values);
-  /// Lets go of the room kept for more rows.
+  /// Releases the space reserved for more rows.
   void Trim();
 
   bool IsNull(std::size_t row, int column) const { return !At(row, column).data(); }

@@ -16,12 +16,12 @@ struct ColumnReference {
   auto operator<=>(const ColumnReference&) const = default;
 };
 
-/// The tables that a statement names, and what is known of how their columns hang together.
+/// The tables that a statement names, and which columns are known to be equal.
 class Scope {
  public:
   /// Raises -2147217900 if the table is named twice.
   void Add(const TableSchema& table);
-  /// Inner joins tell which columns are equal in every row.
+  /// Two columns that an inner join makes equal in every row.
   void AddEquality(ColumnReference a, ColumnReference b) { equalities_.emplace_back(a, b); }
 
   const std::vector<const TableSchema*>& Tables() const { return tables_; }

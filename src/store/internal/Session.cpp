@@ -91,7 +91,7 @@ Session::~Session() {
   if (wrote) SynchronizeFolder(folder_);
 }
 
-/// The first thing read from the file, so it tells whether the file is one of ours and not held by anybody.
+/// The first thing read from the file: raises the reason if it is no database or another program holds it.
 std::int32_t Session::SchemaVersion() {
   const StatementHandle version = Prepare(database_.get(), "pragma schema_version", name_);
   Step(version.get(), name_);

@@ -8,7 +8,7 @@
 
 namespace norvane::store {
 
-/// The store's error numbers. One number stands for several texts.
+/// The store's error numbers. One number has several texts.
 enum class StoreErrorNumber : std::int32_t {
   NoCurrentRecord = 3021,
   ItemNotFound = 3265,

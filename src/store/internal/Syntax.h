@@ -38,7 +38,7 @@ struct Function {
 
 struct Expression {
   std::variant<Constant, Word, Name, Binary, Not, Function> node;
-  std::string_view source;  ///< as it stands in the statement
+  std::string_view source;  ///< as written in the statement
 };
 
 struct Table {

@@ -9,8 +9,8 @@
 namespace norvane::store {
 namespace {
 
-/// The plain letter of each accented one, by blocks of Latin letters. '.' stands for none, a digit for the two letters
-/// that people file a ligature under.
+/// The plain letter of each accented one, by blocks of Latin letters. '.' means none, a digit the two letters under
+/// which people file a ligature.
 struct Block {
   std::uint32_t first;
   std::string_view plain;
@@ -34,7 +34,7 @@ constexpr bool Within(std::uint32_t c, std::uint32_t first, std::uint32_t last) 
   return c >= first && c <= last;
 }
 
-/// Blocks in which a capital stands at each even place with its small letter behind it.
+/// Blocks in which each even code is a capital and the next one its small letter.
 bool EvenCapitals(std::uint32_t c) {
   return Within(c, 0x100, 0x137) || Within(c, 0x14A, 0x177) || Within(c, 0x1A0, 0x1A5) || Within(c, 0x1DE, 0x1EF) ||
          Within(c, 0x1F8, 0x21F) || Within(c, 0x222, 0x233) || Within(c, 0x246, 0x24F) || Within(c, 0x460, 0x481) ||
@@ -160,7 +160,7 @@ bool MatchesPattern(std::string_view text, std::string_view pattern) {
   const std::u32string wanted = LowerCharacters(pattern);
   std::size_t at = 0;
   std::size_t next = 0;
-  std::size_t afterAny = std::u32string::npos;  // where the pattern goes on behind its last %
+  std::size_t afterAny = std::u32string::npos;  // where the pattern continues after its last %
   std::size_t anyEnds = 0;                      // how far that % reaches so far
   while (at < characters.size()) {
     if (next < wanted.size() && wanted[next] == U'%') {

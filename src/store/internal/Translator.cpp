@@ -98,7 +98,7 @@ class StatementTranslator {
     if (binary->op != BinaryOperator::Equal || !left || !right) return;
     const ColumnReference a = scope_.Resolve(*left);
     const ColumnReference b = scope_.Resolve(*right);
-    // Equal texts may differ in case, so the one does not tell how the other is written.
+    // Equal texts may differ in case, so one does not determine the other's spelling.
     if (scope_.TypeOf(a) != FieldType::Text) scope_.AddEquality(a, b);
   }
 
@@ -203,7 +203,7 @@ class StatementTranslator {
     typer_.AllowAggregates(false);
   }
 
-  /// What is asked for, then the key: rows that nothing else tells apart keep their places from one reading to the
+  /// What is asked for, then the key: rows that are otherwise equal keep their places from one reading to the
   /// next.
   void AppendOrder(const Select& select) {
     std::vector<std::string> terms;

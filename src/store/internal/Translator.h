@@ -39,7 +39,7 @@ struct Translation {
 
   /// The one table whose rows these are, if they can be changed in place.
   std::string table;
-  std::vector<std::string> tableColumns;  ///< the table's column behind each result column
+  std::vector<std::string> tableColumns;  ///< the table's column of each result column
   std::vector<std::size_t> key;           ///< the result columns that are its key
 };
 

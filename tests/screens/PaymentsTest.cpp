@@ -126,16 +126,23 @@ TEST_F(PaymentsTest, TheSinceDateItselfIsNotListed) {
   EXPECT_EQ(List().Rows(), 4);
 }
 
-TEST_F(PaymentsTest, ARowWithoutItsAmountTakesTheCursorBackAndIsNotStored) {
+TEST_F(PaymentsTest, ARefusedPaymentKeepsItsTextsAndOnlyAStoredOneItsNumber) {
   AddPayment(1001, 1003);
   Open();
-  List().SetVisibleRows(1);
-  Empty(List(), 1, Receipts::kAmount);
-  List().UserKey(Key::Down);
-  EXPECT_EQ(List().Row(), 1);
-  EXPECT_EQ(Stored().at(0), "1001|1003|Cash|7|46348|250000|NULL");
-  EnterAndGoDown(List(), 1, Receipts::kAmount, "30");
-  EXPECT_THAT(Stored(), ElementsAre("1001|1003|Cash|7|46348|300000|")) << "under its number";
+  desktop.Expect("Invoice.SavePayment --2147217900");
+  Enter(List(), 1, Receipts::kNotes, "May's");
+  Leave();
+  EXPECT_EQ(Row(1), ">|1001|1003|11/22/2026|Cash|7|Moss, Ada|$25.00|May's");
+  List().UserClick(2, Receipts::kDate);
+  TypeCells(List(), {"11/22/2026", "Ca", "", "", "9"});
+  desktop.Expect("Invoice.SavePayment --2147217900");
+  Type(List(), "June's");
+  Leave();
+  EXPECT_EQ(Row(2).substr(0, 4), "?|0|");
+  Enter(List(), 2, Receipts::kNotes, "June");
+  Enter(List(), 1, Receipts::kNotes, "May");
+  Leave();
+  EXPECT_THAT(Stored(), ElementsAre("1001|1003|Cash|7|46348|250000|May", "1002|1003|Cash||46348|90000|June"));
 }
 
 TEST_F(PaymentsTest, APaymentIsDeletedAfterTheQuestion) {

@@ -56,9 +56,6 @@ TEST_F(SampleTest, HasTheSizeAskedFor) {
   EXPECT_EQ(Count("SELECT count(*) FROM tb_Client"), 40);
   EXPECT_EQ(Count("SELECT count(*) FROM tb_Invoice"), 333);
   EXPECT_EQ(Count("SELECT count(*) FROM tb_trans"), 2'000);
-  EXPECT_EQ(Count("SELECT count(*) FROM tb_Inventory"), 190);
-  EXPECT_NEAR(Count("SELECT count(*) FROM tb_Receive"), 150, 25);
-  EXPECT_NEAR(Count("SELECT count(*) FROM tb_GL"), 700, 5);
   EXPECT_EQ(Count("SELECT count(*) FROM tb_Invoice WHERE InvoiceNum NOT IN (SELECT InvoiceNum FROM tb_trans)"), 0);
 }
 
@@ -81,40 +78,19 @@ const Flaw kFlaws[] = {
     {"BackOrdersAreNotWhatIsShort",
      "SELECT ItemNum FROM tb_Inventory AS item WHERE Par > 0 AND min(InStock, 0) <> "
      "ifnull((SELECT sum(BackOrder) FROM tb_trans WHERE tb_trans.ItemNum = item.ItemNum), 0)"},
-    {"WorkHasStock", "SELECT ItemNum FROM tb_Inventory WHERE Par = 0 AND InStock <> 0"},
     {"OrderedWithoutBackOrder", "SELECT TransNum FROM tb_trans WHERE Ordered IS NOT NULL AND BackOrder >= 0"},
-    {"OrderedBeforeSold",
-     "SELECT TransNum FROM tb_trans JOIN tb_Invoice USING (InvoiceNum) WHERE Ordered < \"Date\" OR Ordered > 46348"},
-    {"InvoicesOutOfOrder",
-     "SELECT next.InvoiceNum FROM tb_Invoice AS next JOIN tb_Invoice AS last ON next.InvoiceNum = last.InvoiceNum + 1 "
-     "WHERE next.\"Date\" < last.\"Date\""},
-    {"InTheFuture",
-     "SELECT \"Date\" FROM tb_Invoice WHERE \"Date\" > 46348 OR Shippingdate > 46348 UNION "
-     "SELECT \"Date\" FROM tb_Receive WHERE \"Date\" > 46348 UNION SELECT \"Date\" FROM tb_GL WHERE \"Date\" > 46348"},
     {"TaxIsNotTheStates",
      "SELECT InvoiceNum FROM tb_Invoice JOIN (SELECT InvoiceNum, sum(Amount) AS Lines FROM tb_trans GROUP BY 1) "
      "USING (InvoiceNum), tb_Company WHERE Tax <> 0 AND "
      "abs(Tax - Lines * (100 - Discount) / 100 * Statetaxrate / 100) > 50"},
     {"BalanceHasPartsOfACent", "SELECT CustNum FROM ClientBals WHERE Balance % 100 <> 0"},
     {"UnknownCategory", "SELECT Category FROM tb_GL WHERE Category <> '' AND Category NOT IN tb_ExpenseTypes"},
-    {"UnknownVendor", "SELECT Vendor FROM tb_GL WHERE Vendor <> '' AND Vendor NOT IN (SELECT Company FROM tb_Vendor)"},
     {"UnknownPaymentType",
      "SELECT Type FROM tb_Receive WHERE Type NOT IN tb_PaymentTypes UNION "
      "SELECT PaymentType1 FROM tb_Client WHERE PaymentType1 <> '' AND PaymentType1 NOT IN tb_PaymentTypes"},
     {"UnknownShipping",
      "SELECT ShippingType FROM tb_Invoice WHERE ShippingType NOT IN (SELECT Service || ' ' || \"Option\" FROM "
      "tb_Shipping)"},
-    {"ChargeIsNotTheServices",
-     "SELECT InvoiceNum FROM tb_Invoice JOIN tb_Shipping ON ShippingType = Service || ' ' || \"Option\" "
-     "WHERE ShippingCharge <> Charge"},
-    {"AccountOverdrawn",
-     "SELECT Balance FROM (SELECT sum(Deposit - Payment) OVER (ORDER BY \"Date\", TransNum) AS Balance FROM tb_GL) "
-     "WHERE Balance < 0"},
-    {"DepositIsNotTheWeeksPayments",
-     "SELECT TransNum FROM tb_GL AS entry WHERE Deposit > 0 AND TransNum > 1001 AND Deposit <> "
-     "(SELECT sum(Amount) FROM tb_Receive AS paid WHERE paid.\"Date\" BETWEEN entry.\"Date\" - 6 AND entry.\"Date\")"},
-    {"RealNumbers", "SELECT HomePhone FROM tb_Client WHERE HomePhone NOT LIKE '555-01__'"},
-    {"RealMail", "SELECT Email FROM tb_Client WHERE Email NOT LIKE '%_._%@example.com'"},
 };
 
 TEST_F(SampleTest, HoldsTogether) {
@@ -128,18 +104,6 @@ TEST_F(SampleTest, HasNoTextThatTheProgramCouldNotSaveAgain) {
   for (const std::string& table : database.Rows("SELECT name FROM sqlite_master WHERE type = 'table'"))
     for (const std::string& column : database.Rows("SELECT name FROM pragma_table_info('" + table + "')"))
       EXPECT_THAT(database.Rows("SELECT * FROM " + table + " WHERE \"" + column + "\" LIKE '%''%'"), IsEmpty());
-}
-
-TEST_F(SampleTest, ShowsSomethingOnEveryScreen) {
-  Write({.size = {}, .seed = 1, .today = kToday});
-  EXPECT_GT(Count("SELECT count(DISTINCT CustNum) FROM tb_Invoice WHERE \"Date\" > 46023"), 220) << "sales this year";
-  EXPECT_GT(Count("SELECT count(*) FROM ClientBals WHERE Balance < 0"), 2) << "credit balances";
-  EXPECT_GT(Count("SELECT count(*) FROM ClientBals WHERE Balance > 0"), 30);
-  EXPECT_GT(Count("SELECT count(*) FROM tb_trans WHERE BackOrder < 0 AND Ordered IS NULL"), 2) << "to be ordered";
-  EXPECT_GT(Count("SELECT count(*) FROM tb_trans WHERE Ordered IS NOT NULL"), 2) << "on order";
-  EXPECT_GT(Count("SELECT count(*) FROM tb_GL WHERE Cleared = 0"), 5) << "not cleared";
-  EXPECT_EQ(Count("SELECT count(DISTINCT Category) FROM tb_GL WHERE Payment > 0"), 8) << "every expense type";
-  EXPECT_EQ(Count("SELECT count(DISTINCT CatNum) FROM tb_Inventory"), 6) << "every category";
 }
 
 }  // namespace

@@ -32,8 +32,6 @@ TEST(Date, PastTheCalendarsEndsRaises) {
 }
 
 TEST(DateText, ShowsTheTimeOnlyIfThereIsOne) {
-  EXPECT_EQ(kUnitedStates.ToText(Day(2024, 1, 5)), "1/5/2024");
-  EXPECT_EQ(kUnitedStates.ToText(Date()), "12:00:00 AM");
   EXPECT_EQ(kUnitedStates.ToText(Date(-1.25)), "12/29/1899 6:00:00 AM");
   // A moment that rounds to midnight belongs to the next day.
   EXPECT_EQ(kUnitedStates.ToText(Day(2024, 1, 5) + 0.9999999), "1/6/2024");

@@ -42,6 +42,10 @@ void MakeOwnFolder(const fs::path& folder) {
   fs::create_directory(unfinished, failed);
   fs::permissions(unfinished, fs::perms::owner_all, failed);
   fs::create_directory_symlink(delivered.parent_path() / kHelpFolder, unfinished / kHelpFolder, failed);
+  // The first places of the windows; without them the screens have their own.
+  if (const auto places = ReadWholeFile(delivered.parent_path() / kSettingsFile)) {
+    WriteFileAtomically(unfinished / kSettingsFile, *places);
+  }
   const std::optional<std::string> database = ReadWholeFile(delivered);
   if (database && WriteFileAtomically(unfinished / kDatabaseFile, *database)) {
     fs::rename(unfinished, folder, failed);

@@ -52,13 +52,13 @@ void RowEditing::SetNewRowStatus() {
 
 bool RowEditing::Waits(std::int32_t row) const {
   const auto found = edits_.find(row);
-  return found != edits_.end() && found->second.waits;
+  return found != edits_.end() && found->second.waits && row < grid_.Rows();
 }
 
 std::vector<std::int32_t> RowEditing::WaitingRows() const {
   std::vector<std::int32_t> rows;
-  for (const auto& [row, edit] : edits_) {
-    if (edit.waits && Existing(row) > 0) rows.push_back(row);
+  for (const auto& each : edits_) {
+    if (Waits(each.first)) rows.push_back(each.first);
   }
   return rows;
 }
@@ -136,7 +136,7 @@ void RowEditing::LostFocus() {
 // The cursor goes back to an empty row that it skipped, then the row that was left is stored.
 void RowEditing::AfterRowEdit() {
   Trap(reporter_, rules_.labels.afterRowEdit, [&] {
-    const std::int32_t left = Existing(OldRow);
+    const std::int32_t left = OldRow;
     const std::int32_t entered = Existing(NewRow);
     if (entered > 0) {
       if (rules_.marksRowEntered) SetMarker(entered, "?");
@@ -171,13 +171,8 @@ void RowEditing::CommitPending() {
 
 // A row that isn't complete waits no longer either, and its texts stay in the grid.
 void RowEditing::SaveRow(std::int32_t row) {
-  if (!Waits(row)) return;
   const std::int32_t left = std::exchange(OldRow, row);
-  if (ReadRow(rules_.labels.saveRow, row, [&] { storeRow_(row); })) {
-    MarkStored(row);
-  } else {
-    ShowStatus(rules_.labels.setOldRowStatus, row);
-  }
+  if (ReadRow(rules_.labels.saveRow, row, [&] { storeRow_(row); })) MarkStored(row);
   if (left != row) OldRow = left;
 }
 
@@ -187,7 +182,6 @@ void RowEditing::StartOver() {
 
 void RowEditing::Close() {
   for (const std::int32_t row : WaitingRows()) SaveRow(row);
-  edits_.clear();
   globals_.RowChanged = false;
 }
 

@@ -54,7 +54,8 @@ const std::map<std::string, void (*)(Rows&)> kSteps = {
     {"close", [](Rows& s) { s.Unload(); }},
     {"elsewhere", [](Rows& s) { s.globals.RowChanged = true; }},
     {"small", [](Rows& s) { s.List.SetVisibleRows(1); }},
-    {"long", [](Rows& s) { s.List.SetRows(9), s.List.SetVisibleRows(5), s.List.SetRow(8), s.List.SetTopRow(1); }},
+    {"seven", [](Rows& s) { s.List.SetRows(7), s.List.SetVisibleRows(5), s.List.SetRow(6), s.List.SetTopRow(1); }},
+    {"cut", [](Rows& s) { s.List.SetRows(2); }},
 };
 
 /// One of the steps above; "2:3" for a click on a cell, "2:3=text" for an edit of it, "2:3~text" for a text put there
@@ -112,21 +113,23 @@ TEST(RowEditing, StoresWhatWasEditedWhenItIsLeft) {
       {"and the first row shown", "small 2:2= down", "->-- 2/1", {.scrollsBack = true}},
       {"while another is stored", "1:2~ 3:3=31 2:2", ">--- 1/1 3|c|31(>)"},
       {"the empty row is used again", "new new", "---* 4/1"},
-      {"with the rows above it in sight", "long new", "-------* 8/4"},
-      {"or not", "long new", "-------* 8/1", {.scrollsToNewRow = false}},
+      {"with the rows above it in sight", "seven new", "-----* 6/2"},
+      {"or not", "seven new", "-----* 6/1", {.scrollsToNewRow = false}},
 
       {"an unreadable row is reported and not stored", "1:3=100 down", "?>-- 2/1 save:6 waits"},
       {"once, and not as it is entered", "1:3=100 down up down leave", "?>-- 2/1 save:6 waits"},
       {"again with other texts", "1:3=100 down 1:3=101 leave", "?--- 1/1 save:6 save:6 waits"},
       {"again after it was stored", "1:3=100 down 1:3=1 down 1:3=100 down", "?>-* 2/1 save:6 1|a|1(?) save:6 waits"},
       {"an edit that can't be read stores nothing", "1:3=x down", "->-- 2/1 edit:13"},
-      {"and isn't reported twice", "1:2=A 1:3=x down leave", "?>-- 2/1 edit:13 waits"},
+      {"and is reported when it is typed again", "1:3=x 1:3=1 1:3=x", "?--- 1/1 edit:13 edit:13 waits"},
+      {"but not as its row is left", "1:2=A 1:3=x down leave", "?>-- 2/1 edit:13 waits"},
       {"several wait each for itself", "1:3=100 2:3=200 3:2 1:3=1 down", "-?-* 2/1 save:6 save:6 1|a|1(?) waits"},
       {"are tried again when the grid is left", "1:3=100 2:3=200 3:2 1:3~1 2:3~2 leave",
        "-->- 3/1 save:6 save:6 1|a|1(>) 2|b|2(>)"},
       {"and when the screen closes", "1:3=100 2:3=200 leave 1:3~1 close", "-?-- 2/1 save:6 save:6 1|a|1(?)"},
       {"follow their rows", "3:3=100 1:2 remove 2:3~3 leave", ">-- 1/1 save:6 3|c|3()"},
-      {"go with them", "3:3=100 2:2 3:2 remove leave", "--* 3/1 save:6"},
+      {"go with them", "2:3=200 1:2 2:2 remove leave", "->- 2/1 save:6"},
+      {"or where rows are cut off", "3:3=31 cut leave", "> 1/1 waits"},
       {"and with a new list", "1:3=100 down refill 1:3~1 leave", "?>-- 2/1 save:6"},
   };
   for (const Case& c : cases) EXPECT_EQ(Outcome(c.steps, c.rules), c.outcome) << c.what << ": " << c.steps;

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "data/Client.h"
+#include "forms/LongWork.h"
 #include "reports/ReportTable.h"
 #include "store/Recordset.h"
 
@@ -61,7 +62,8 @@ Object<Recordset> Prt30Days::FindPastDue() {
   client->OpenCn();
   const Object<Recordset> balances = client->ClientBals();
   const Date limit = desktop.Today() - globals.AgingDays;
-  for (; !balances->Eof(); balances->MoveNext()) {
+  LongWork work(program, balances->RecordCount(), screen::kLoadingClients);
+  for (; !balances->Eof(); balances->MoveNext(), work.Step()) {
     const Object<Recordset> payments = client->rsLastPayment(balances->Long("CustNum"));
     if (payments->RecordCount() == 0) continue;
     if (payments->Date("Date") < limit) AddPastDue(*pastDue, *balances, *payments);

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "forms/Form.h"
+#include "forms/ProgressBar.h"
 
 namespace norvane {
 
@@ -21,6 +22,7 @@ struct NoticeKind {
   const char* label;
   const char* secondLabel = nullptr;
   NoticeTimer timer = {};
+  bool hasBar = false;  ///< long work shows in it how far it is
 };
 
 constexpr NoticeTimer kIdleTimer{.milliseconds = 1500, .enabled = false, .repaints = screen::kInvoiceDetail};
@@ -30,8 +32,8 @@ constexpr NoticeKind kNotices[] = {
     {screen::kGettingInvoices, "Getting Invoices", "Getting Client Invoices...", nullptr, kIdleTimer},
     {screen::kGettingInventory, "Getting Inventory", "Getting Inventory...", nullptr, kIdleTimer},
     {screen::kGettingReceipts, "Getting Receipts", "Getting Client Receipts...", nullptr, kIdleTimer},
-    {screen::kLoadingClients, "Loading Clients", "Loading Client Data...", nullptr, {1000, true}},
-    {screen::kLoadingBilling, "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}},
+    {screen::kLoadingClients, "Loading Clients", "Loading Client Data...", nullptr, {1000, true}, true},
+    {screen::kLoadingBilling, "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}, true},
     {screen::kCustomerSaved, "Save Client", "Saving Client...", "Updating Client List...", {1000, false}},
     {screen::kLoadingInvoices, "Loading Invoices", "Loading Invoices..."},
 };
@@ -46,12 +48,17 @@ class Notice : public Form {
       Label2 = std::make_unique<Label>(*this, "Label2", kind.secondLabel);
       labels.emplace_back(*Label2);
     }
+    if (kind.hasBar) {
+      Bar = std::make_unique<ProgressBar>(*this, "Bar");
+      labels.emplace_back(*Bar);
+    }
     SetLayout(layout::Column(std::move(labels)));
     if (kind.timer.milliseconds > 0) MakeTimer(kind.timer);
   }
 
   Label Label1;
   std::unique_ptr<Label> Label2;
+  std::unique_ptr<ProgressBar> Bar;
   std::unique_ptr<Timer> Timer1;
 
  private:

@@ -6,7 +6,7 @@
 namespace norvane::test {
 namespace {
 
-constexpr const char* kNotice = "LoadingClients";
+constexpr const char* kNotice = screen::kLoadingClients;
 
 /// A report with criteria beside it. It goes on only with a number in LedgerFieldValue.
 class Criteria : public PeriodReport {
@@ -67,11 +67,8 @@ class ReportFormTest : public ReportOffice {
     globals.LedgerFieldValue = "1";
     program.screens.Add<Criteria>();
     program.screens.Add<Receipt>();
-    program.screens.AddFactory(kNotice, [](Program& host) {
-      return std::make_shared<Form>(host, kNotice, FormStyle{.goesWithOwner = true, .notice = true});
-    });
   }
-  bool NoticeStands() { return program.screens.Find(kNotice) != nullptr; }
+  bool NoticeIsOpen() { return program.screens.Find(kNotice) != nullptr; }
 };
 
 TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
@@ -79,7 +76,7 @@ TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
   desktop.Expect("Criteria.Form_Load -13 Type mismatch.  If error persists contact Norvanes author.");
   Criteria& report = Open<Criteria>();
   EXPECT_TRUE(report.IsVisible());
-  EXPECT_TRUE(NoticeStands());
+  EXPECT_TRUE(NoticeIsOpen());
   EXPECT_THAT(WordsOf(report.VSregistry),
               ElementsAre("Criteria", "Norvane & Daughters", "11/22/2026", "Since 1/1/2025"));
   globals.LedgerFieldValue = "2";
@@ -94,12 +91,12 @@ TEST_F(ReportFormTest, AnErrorIsReportedOnceAndLeavesWhatWasBuilt) {
   EXPECT_EQ(toldOfPages, 1);
   EXPECT_THAT(WordsOf(report.VSregistry), Not(Contains("2")));
   report.btnExit.Press();
-  EXPECT_FALSE(NoticeStands());
+  EXPECT_FALSE(NoticeIsOpen());
 
   globals.LedgerFieldValue = "3";
-  desktop.DuringDoEvents([&] { EXPECT_TRUE(NoticeStands()); });
+  desktop.DuringDoEvents([&] { EXPECT_TRUE(NoticeIsOpen()); });
   Criteria& again = Open<Criteria>();
-  EXPECT_FALSE(NoticeStands());
+  EXPECT_FALSE(NoticeIsOpen());
   globals.LedgerFieldValue = "4";
   Open<Receipt>().UserClose();
   EXPECT_THAT(WordsOf(again.VSregistry), Contains("3")) << "each has its own document";

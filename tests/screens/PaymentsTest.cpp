@@ -267,8 +267,12 @@ TEST_F(PaymentsTest, AReceiptIsPrintedForTheDateOfTheRowClicked) {
   EXPECT_FALSE(IsOpen("PrtReceipt"));
   List().UserClick(1, Receipts::kAmount);
   EXPECT_EQ(globals.ReceiptDate, Date(kSince + 9));
+  globals.CurCustNum = 1001;
+  globals.ReceiptDate = Date();
   Screen().btnPrint.Press();
   EXPECT_TRUE(IsOpen("PrtReceipt"));
+  EXPECT_EQ(globals.CurCustNum, 1003) << "the client of the marked row, whatever was selected elsewhere";
+  EXPECT_EQ(globals.ReceiptDate, Date(kSince + 9));
 }
 
 }  // namespace

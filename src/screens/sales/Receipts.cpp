@@ -274,10 +274,12 @@ void Receipts::btnDelete_Click() {
   });
 }
 
+// The receipt is made out to the client and the date of the marked payment, whatever is selected elsewhere.
 void Receipts::btnPrint_Click() {
   if (PaymentList.Cell(PaymentList.Row(), kDate).empty()) {
     desktop.Say("Select payment with valid date for printing receipt.");
   } else {
+    PaymentList_Click();
     screens.Reopen(screen::kPrtReceipt);
   }
 }

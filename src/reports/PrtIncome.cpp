@@ -17,7 +17,9 @@ constexpr int kBoldRows[] = {3, 15, 17};
 }  // namespace
 
 PrtIncome::PrtIncome(Program& host) : PeriodReport(host, kName, "Print Income Statement") {
-  SetFramedLayout(Frame1, layout::Column({BeginningField("Beginning:"), EndingField("Ending:"), btnGo}));
+  using namespace layout;
+  SetFramedLayout(
+      Frame1, Column({Fields({BeginningField("Beginning:"), EndingField("Ending:")}), Row({btnGo, Space()}), Space()}));
 }
 
 void PrtIncome::Form_Load() {

@@ -5,7 +5,7 @@ namespace norvane {
 namespace {
 
 // A page at 100 percent shows in its whole width.
-constexpr Twips kFirstWidth = 13'200;
+constexpr Twips kFirstWidth = 13'500;
 constexpr Twips kFirstHeight = 11'400;
 /// Room for a date with its picker and label.
 constexpr Twips kFrameWidth = 4'600;

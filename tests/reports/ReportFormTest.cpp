@@ -130,7 +130,7 @@ TEST_F(ReportFormTest, ResizesByTheRuleOfItsKind) {
 
   Criteria& criteria = Open<Criteria>();
   const Twips frame = criteria.Frame1.Width();
-  EXPECT_EQ(criteria.Width(), 13'200 + frame) << "it opens wide enough for page and frame";
+  EXPECT_EQ(criteria.Width(), 13'500 + frame) << "it opens wide enough for page and frame";
   criteria.UserResize(10'000 + frame, 8'000);
   EXPECT_THAT(placesOf(criteria, criteria.VSregistry), ElementsAre(25, 9750, 7200, 9000 + frame));
   EXPECT_EQ(criteria.Frame1.Left(), 9800);

@@ -49,7 +49,7 @@ void BackOrderReport::BackOrderItemsPreview() {
 }
 
 PrtBackOrders::PrtBackOrders(Program& host) : BackOrderReport(host, kToOrder) {
-  SetReportLayout({layout::Space(), btnOrder});
+  SetReportLayout({btnOrder});
   WireTo(btnOrder, screen::kBackOrderSet);
 }
 

@@ -23,7 +23,7 @@ namespace {
 constexpr std::int64_t kPages = 1'000;
 constexpr int kResolution = 1'200;
 
-/// What stands on the pages, ready for a painter that knows nothing but its own calls.
+/// The content of the pages as bare calls of a painter, to compare with.
 class BarePages {
  public:
   explicit BarePages(const pages::Pages& document) {

@@ -8,15 +8,13 @@
 
 #include "core/FileNames.h"
 #include "core/WholeFile.h"
+#include "ui/Convert.h"
 
 namespace norvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path ToPath(const QString& path) {
-  return {path.toStdU16String()};
-}
+using ui::ToPath;
 
 fs::path FolderOf(const char* executable) {
   const fs::path started(executable);
@@ -29,8 +27,8 @@ fs::path DeliveredDatabase() {
   return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, kDatabaseFile));
 }
 
-/// The folder appears whole or not at all, so what goes wrong at the first start is put right by the next one. What is
-/// missing is reported when the database is opened.
+/// Creates the folder whole or not at all, so that the next start can repeat what failed at the first. A missing file
+/// is reported when the database is opened.
 void MakeOwnFolder(const fs::path& folder) {
   const fs::path delivered = DeliveredDatabase();
   if (delivered.empty()) return;

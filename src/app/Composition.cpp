@@ -3,11 +3,10 @@
 #include "forms/Program.h"
 #include "reports/RegisterReports.h"
 #include "screens/Screens.h"
-#include "ui/QtDesktop.h"
 
 namespace norvane {
 
-void Compose(Program& program, ui::QtDesktop&) {
+void Compose(Program& program) {
   RegisterScreens(program);
   RegisterReports(program);
 }

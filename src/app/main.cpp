@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
   norvane::ui::QtDesktop desktop(settings);
   norvane::Program program(desktop, settings, norvane::ApplicationFolder(startedAs));
   application.ReportTo(desktop);
-  norvane::Compose(program, desktop);
+  norvane::Compose(program);
   program.Start(norvane::screen::kCustomer);
   desktop.Run();
   return 0;

@@ -6,15 +6,11 @@
 
 #include "core/SettingsFile.h"
 #include "core/Val.h"
+#include "forms/FrameSize.h"
 
 namespace norvane {
 
 namespace {
-
-/// What the platform's frame takes of a window, whatever frame is drawn.
-constexpr Twips kFrameWidth = 120;
-constexpr Twips kFrameHeight = 405;
-constexpr Twips kMenuBarHeight = 285;
 
 /// The text form of a single-precision number: seven significant digits.
 std::string SingleText(Twips value) {
@@ -80,7 +76,7 @@ Twips Form::ScaleWidth() const {
 }
 
 Twips Form::ScaleHeight() const {
-  return std::max(0.0, height_ - kFrameHeight - (menuBar_.empty() ? 0 : kMenuBarHeight));
+  return std::max(0.0, height_ - FrameHeight(!menuBar_.empty()));
 }
 
 void Form::SetLeft(Twips left) {

@@ -5,14 +5,13 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
 namespace norvane::ui {
 namespace {
 
 bool TakesText(const QObject& widget) {
-  return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget) ||
-         qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QAbstractSpinBox*>(&widget);
+  return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
+         qobject_cast<const QAbstractSpinBox*>(&widget);
 }
 
 /// Alt with Ctrl is how some keyboards write a third character.

@@ -4,7 +4,7 @@ class QApplication;
 
 namespace norvane::ui {
 
-/// A letter typed with Alt that is nobody's accelerator is lost; the toolkit alone would write it into the field.
+/// A letter typed with Alt that is no accelerator here types nothing; the toolkit would write it into the field.
 void KeepAltFromTyping(QApplication& application);
 
 }  // namespace norvane::ui

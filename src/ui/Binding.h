@@ -16,23 +16,23 @@ class Binding : public QObject {
  public:
   using Follow = std::function<void(Aspect)>;
 
-  /// `follow` draws what changed; it is told of everything but the aspects that all widgets share. The binding belongs
-  /// to the widget.
+  /// `follow` draws what changed; it is called for all aspects but those that all widgets share. The binding belongs to
+  /// the widget.
   Binding(Control& control, QWidget& widget, Follow follow);
 
   Control& Model() const { return control_; }
   QWidget& Widget() const { return widget_; }
 
-  /// Draws everything anew, for a widget that has got its content only after the binding.
+  /// Draws everything again, for a widget that gets its content after the binding.
   void Refresh();
 
-  /// The label that belongs to the widget: hidden with it, and its accessible name.
+  /// Sets the label that is shown and hidden with the widget.
   void SetCompanion(QWidget* companion);
 
-  /// Told when the model has given the control the focus.
+  /// Called when the model has given the control the focus.
   std::function<void(Binding&)> focused;
 
-  /// The binding of the widget or of the nearest one around it, nothing outside of forms.
+  /// The binding of the widget or of its nearest ancestor with one, null outside of forms.
   static Binding* Of(QWidget* widget);
 
  private:

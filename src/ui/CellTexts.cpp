@@ -5,8 +5,8 @@
 namespace norvane::ui {
 namespace {
 
-/// An amount with the region's symbol, or any other single one, on either side. Among the digits may stand what
-/// separates thousands anywhere: the blanks that do are not the one on the keyboard.
+/// An amount with the region's symbol, or any other single one, on either side. The digits may be grouped by any
+/// region's separator, no-break spaces among them, but not by the ordinary space.
 QRegularExpression Amount(const RegionalSettings& settings, const QString& digits) {
   const QString symbol = "(?: ?(?:" + QRegularExpression::escape(ToQt(settings.currencySymbol)) + R"(|[^\w\s/-]) ?)?)";
   return QRegularExpression("^[-(]?" + symbol + "-?" + digits + symbol + "[-)]?$");

@@ -8,16 +8,16 @@
 
 namespace norvane::ui {
 
-/// What a cell's text looks like to one who reads it under the region's settings.
+/// Classifies the texts of cells under the region's settings.
 class CellTexts {
  public:
   explicit CellTexts(const RegionalSettings& settings);
 
-  /// A number or an amount, which belong under one another on the right. Not a date, whatever stands between its parts.
+  /// A number or an amount, which are aligned on the right. Never a date, whatever separates its parts.
   bool IsFigure(const QString& text) const;
-  /// A date, an amount or the like: of no use once it is cut off.
+  /// A date, an amount or the like: useless once it is cut off.
   bool IsExact(const QString& text) const;
-  /// What the cells of a column will hold, as long as they are empty; nothing if that can't be told.
+  /// The widest text to expect in a column that is still empty; empty if its type says nothing.
   QString Sample(ColumnType type) const;
 
  private:

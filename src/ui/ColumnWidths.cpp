@@ -8,7 +8,7 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kRowsMeasured = 200;
-/// Texts are cut short to this share of their column's width, at most, to spare the user the scrolling.
+/// Texts are cut to no less than this share of their column's width before the grid scrolls.
 constexpr double kTightest = 0.6;
 
 class Sharing {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <string>
 
 #include <QDate>
@@ -15,7 +16,7 @@ namespace norvane::ui {
 
 inline constexpr double kTwipsPerPixel = 15;
 
-/// Lengths come from a settings file, which may hold anything: one that no window system can draw is cut.
+/// Lengths come from a settings file, which may hold anything: they are limited to what a window system can draw.
 inline int ToPixels(Twips twips) {
   constexpr double kMost = 16383;
   return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kMost, kMost)));
@@ -29,6 +30,13 @@ inline QString ToQt(const std::string& text) {
 }
 inline std::string FromQt(const QString& text) {
   return text.toStdString();
+}
+
+inline std::filesystem::path ToPath(const QString& path) {
+  return {path.toStdU16String()};
+}
+inline QString FromPath(const std::filesystem::path& path) {
+  return QString::fromStdU16String(path.u16string());
 }
 
 inline QDate ToQt(Date date) {

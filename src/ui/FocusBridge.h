@@ -7,7 +7,7 @@
 
 namespace norvane::ui {
 
-/// Keeps the toolkit's keyboard focus and the model's one and the same.
+/// Keeps the toolkit's keyboard focus and the model's focus the same.
 ///
 /// The user's moves reach the model after the toolkit has finished its own, so a handler may do anything. Message
 /// boxes, menus and popups have no binding, and coming back from them or from another program finds the model where it
@@ -17,11 +17,11 @@ class FocusBridge : public QObject {
  public:
   FocusBridge();
 
-  /// The model has given the binding's control the focus; the widget and its window follow.
+  /// Moves the keyboard focus to the widget of a control to which the model has given the focus.
   void Give(Binding& binding);
-  /// What the user did before is overtaken: a window is about to come to the front by the model's will.
+  /// Drops a move of the user's that the model doesn't know yet, because the model itself brings a window forward.
   void Forget() { wanted_ = nullptr; }
-  /// Lets the model know, if the user has moved the focus.
+  /// Reports the user's last move of the focus to the model, if there is one.
   void Deliver();
 
  private:

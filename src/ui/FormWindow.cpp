@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QWindow>
 
+#include "forms/FrameSize.h"
 #include "ui/Convert.h"
 #include "ui/LayoutBuilder.h"
 #include "ui/Theme.h"
@@ -19,9 +20,6 @@
 namespace norvane::ui {
 namespace {
 
-constexpr Twips kFrameWidth = 120;
-constexpr Twips kFrameHeight = 405;
-constexpr Twips kMenuHeight = 285;
 constexpr int kNoticeMargin = 16;
 constexpr int kNoticeCharacters = 40;  // enough for its title beside the frame's buttons
 constexpr int kCascade = 28;
@@ -91,7 +89,7 @@ void FormWindow::BuildPage(const WidgetFactory& factory, FocusBridge& focus) {
     setAttribute(Qt::WA_ShowWithoutActivating);
   }
   setCentralWidget(page);
-  if (builder.MetStatusBar()) setStatusBar(builder.MetStatusBar());
+  if (builder.FoundStatusBar()) setStatusBar(builder.FoundStatusBar());
   SetTabOrder();
 }
 
@@ -112,8 +110,8 @@ QWidget* FormWindow::WidgetOf(const Control& control) const {
 }
 
 void FormWindow::Present(QWidget* owner) {
-  // Before there is a native window: once there is one, but not yet its frame, the place would be taken for that of the
-  // page inside.
+  // Before there is a native window: once there is one, but not yet its frame, the window system would take the place
+  // for that of the page inside.
   if (!placed_) TakeFirstPlace(owner);
   placed_ = true;
   if (!isVisible()) BelongTo(owner);
@@ -137,7 +135,7 @@ void FormWindow::Abandon() {
   deleteLater();
 }
 
-/// Above its owner, which is not its parent: an owner may go and leave the window behind.
+/// Keeps it above its owner, which is not its parent: an owner may close and leave the window open.
 void FormWindow::BelongTo(QWidget* owner) {
   setWindowModality(form_->IsModal() ? Qt::ApplicationModal : Qt::NonModal);
   // Window systems keep above its owner only what calls itself a dialog.
@@ -152,7 +150,7 @@ void FormWindow::TakeFirstPlace(QWidget* owner) {
   if (!form_->Style().resizable) layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (natural) {
     adjustSize();
-    TellSize();
+    ReportSize();
   }
   FollowPlace();
   if (form_->Left() != 0 || form_->Top() != 0) return;
@@ -164,10 +162,10 @@ void FormWindow::TakeFirstPlace(QWidget* owner) {
 void FormWindow::FitOnScreen() {
   const QSize room = QGuiApplication::primaryScreen()->availableSize() - kRoomForFrame;
   resize(size().boundedTo(room).expandedTo(minimumSizeHint()));
-  TellSize();
+  ReportSize();
 }
 
-/// In the middle of its owner or of the screen; beside the owner's corner where that would lead off the screen.
+/// In the middle of its owner or of the screen; below the owner's corner where the middle is too near to an edge.
 QPoint FormWindow::PlaceBeside(const QWidget* owner) const {
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
   const QRect around = owner ? owner->frameGeometry() : room;
@@ -176,13 +174,12 @@ QPoint FormWindow::PlaceBeside(const QWidget* owner) const {
   return owner ? owner->pos() + QPoint(kCascade, kCascade) : room.topLeft();
 }
 
-Twips FormWindow::FrameHeight() const {
-  return kFrameHeight + (form_->MenuBar().empty() ? 0 : kMenuHeight);
+int FormWindow::MenuHeight() const {
+  return form_->MenuBar().empty() ? 0 : menuBar()->sizeHint().height();
 }
 
 QSize FormWindow::SizeOfForm() const {
-  const int menu = form_->MenuBar().empty() ? 0 : menuBar()->sizeHint().height();
-  return {ToPixels(form_->Width() - kFrameWidth), ToPixels(form_->Height() - FrameHeight()) + menu};
+  return {ToPixels(form_->ScaleWidth()), ToPixels(form_->ScaleHeight()) + MenuHeight()};
 }
 
 void FormWindow::FollowPlace() {
@@ -198,16 +195,15 @@ void FormWindow::FormChanged(Aspect aspect) {
   if (aspect == Aspect::Place && placed_) FollowPlace();
 }
 
-template <class Tell>
-void FormWindow::Telling(Tell tell) {
-  if (form_ && form_->IsVisible() && !following_) tell();
+bool FormWindow::Reports() const {
+  return form_ && form_->IsVisible() && !following_;
 }
 
-void FormWindow::TellSize() {
-  // A size that rounds to the pixels on the screen is what the form has already.
+void FormWindow::ReportSize() {
+  // A size that rounds to the pixels on the screen is the one that the form already has.
   if (size() == SizeOfForm()) return;
-  const int menu = form_->MenuBar().empty() ? 0 : menuBar()->sizeHint().height();
-  form_->UserResize(ToTwips(width()) + kFrameWidth, ToTwips(height() - menu) + FrameHeight());
+  form_->UserResize(ToTwips(width()) + kFrameWidth,
+                    ToTwips(height() - MenuHeight()) + FrameHeight(!form_->MenuBar().empty()));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -236,31 +232,25 @@ bool FormWindow::PressButton(bool ButtonStyle::*role) {
 
 void FormWindow::moveEvent(QMoveEvent* event) {
   QMainWindow::moveEvent(event);
-  Telling([&] {
-    if (!placed_ || isMinimized() || !isVisible()) return;
-    if (pos() == QPoint(ToPixels(form_->Left()), ToPixels(form_->Top()))) return;
-    form_->UserMove(ToTwips(pos().x()), ToTwips(pos().y()));
-  });
+  if (!Reports() || !placed_ || isMinimized() || !isVisible()) return;
+  if (pos() == QPoint(ToPixels(form_->Left()), ToPixels(form_->Top()))) return;
+  form_->UserMove(ToTwips(pos().x()), ToTwips(pos().y()));
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  Telling([&] {
-    if (placed_ && !isMinimized()) TellSize();
-  });
+  if (Reports() && placed_ && !isMinimized()) ReportSize();
 }
 
 void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) {
-    Telling([&] {
-      form_->UserWindowState(isMinimized()   ? WindowState::Minimized
-                             : isMaximized() ? WindowState::Maximized
-                                             : WindowState::Normal);
-    });
+  if (event->type() == QEvent::WindowStateChange && Reports()) {
+    form_->UserWindowState(isMinimized()   ? WindowState::Minimized
+                           : isMaximized() ? WindowState::Maximized
+                                           : WindowState::Normal);
   }
-  if (event->type() == QEvent::ActivationChange && isActiveWindow() && !focusWidget()) {
-    Telling([&] { form_->UserActivate(); });
+  if (event->type() == QEvent::ActivationChange && isActiveWindow() && !focusWidget() && Reports()) {
+    form_->UserActivate();
   }
 }
 

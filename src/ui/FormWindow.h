@@ -10,24 +10,25 @@ class QMenu;
 
 namespace norvane::ui {
 
-/// What stands before the others has a title and can be closed; it is neither enlarged nor put away.
+/// The frame of a window above the others: it has a title and can be closed, but neither maximised nor minimised.
 constexpr Qt::WindowFlags kDialogFrame =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
-/// The window of a form. It draws the form's description and forwards what the user does; the form is the truth.
+/// The window of a form: draws the form's description and forwards what the user does. All state is the form's.
 class FormWindow : public QMainWindow {
  public:
   FormWindow(Form& form, const WidgetFactory& factory, FocusBridge& focus);
 
-  /// Shows it, or brings it forward if it stands. `owner` is the window it stays above, nothing for none.
+  /// Shows the window, or brings it forward if it is visible. It stays above `owner`, which may be null.
   void Present(QWidget* owner);
   void Withdraw();
-  /// The form is no more: cuts every tie to it. The window itself goes when the toolkit has finished with it.
+  /// The form is about to be destroyed: drops every reference to it. The window itself is deleted when the toolkit has
+  /// finished with it.
   void Abandon();
 
-  /// Nothing after Abandon.
+  /// Null after Abandon.
   Form* Model() const { return form_; }
-  /// The widget of a control of the form, nothing if it has none.
+  /// The widget of a control of the form, null if it has none.
   QWidget* WidgetOf(const Control& control) const;
 
  protected:
@@ -52,16 +53,15 @@ class FormWindow : public QMainWindow {
   void FitOnScreen();
   QPoint PlaceBeside(const QWidget* owner) const;
   QSize SizeOfForm() const;
-  /// What the model counts around the inner area, in twips.
-  Twips FrameHeight() const;
-  void TellSize();
+  int MenuHeight() const;
+  /// Whether what the user does with the window is reported to the form.
+  bool Reports() const;
+  void ReportSize();
   bool PressButton(bool ButtonStyle::*role);
-  template <class Tell>
-  void Telling(Tell tell);
 
   Form* form_;
   std::vector<std::pair<const Control*, QWidget*>> widgets_;
-  bool following_ = false;  ///< the window is taking the model's place; nothing new to tell
+  bool following_ = false;  ///< the window is taking the place that the model has
   bool placed_ = false;
 };
 

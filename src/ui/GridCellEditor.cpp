@@ -107,8 +107,8 @@ void GridCellEditor::OpenList() {
 }
 
 void GridCellEditor::Hide() {
-  // The keyboard goes back to the grid before its field goes, or the toolkit would pass it on to another control, also
-  // in a window that is not in front.
+  // The grid takes the focus back before its field is hidden; else the toolkit would pass it on to another control,
+  // even in a window that is not active.
   const QWidget* focused = viewport_->window()->focusWidget();
   if (focused == line_ || focused == list_) viewport_->parentWidget()->setFocus(Qt::OtherFocusReason);
   if (list_->isVisible()) list_->hidePopup();
@@ -118,7 +118,7 @@ void GridCellEditor::Hide() {
 
 bool GridCellEditor::eventFilter(QObject* watched, QEvent* event) {
   if (grid_ && watched == list_ && event->type() == QEvent::Wheel) {
-    event->ignore();  // it scrolls the grid
+    event->ignore();  // the grid scrolls
     return true;
   }
   if (!grid_ || event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);

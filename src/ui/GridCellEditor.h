@@ -17,21 +17,21 @@ struct GridKeyPress {
   Key key;
   KeyModifiers modifiers;
 };
-/// The grid's name of a key, nothing for a key that it has no name for.
+/// Converts a key that the grid knows; false for any other.
 bool ToGridKey(const QKeyEvent& event, GridKeyPress& press);
 
-/// The field over the current cell while the grid is being edited: a line, or a list where the column has one. What is
-/// typed goes to the grid; when the edit ends is the grid's decision.
+/// The field over the current cell during an edit: a line, or a list where the column has one. What is typed goes to
+/// the grid, which decides when the edit ends.
 class GridCellEditor : public QObject {
  public:
-  /// `alignment` tells how a column's cells stand, so that a text doesn't jump when its edit begins.
+  /// `alignment` returns the alignment of a column's cells, so that a text doesn't jump when its edit begins.
   GridCellEditor(Grid& grid, QWidget* viewport, std::function<Qt::Alignment(int col)> alignment);
   void Abandon();
 
-  /// Makes the field show the edit under way, or go away if there is none.
+  /// Shows the edit under way, or hides the field if there is none.
   void Follow(const QRect& cell);
   void Place(const QRect& cell);
-  /// Gives the keyboard to the field that stands.
+  /// Gives the visible field the focus.
   void TakeKeyboard();
   /// Opens the list of a drop-down that is being edited.
   void OpenList();

@@ -6,8 +6,8 @@
 
 namespace norvane::ui {
 
-/// Draws the cells of a grid: the current row, the frame of the current cell, check boxes, and the small helper button
-/// at the right of a current cell that has one.
+/// Draws the cells of a grid, the frame of the current cell, check boxes, and the helper button at the right of a cell
+/// that has one.
 class GridCellPainter : public QStyledItemDelegate {
  public:
   static constexpr int kPadding = 4;  ///< left and right of a cell's text
@@ -17,9 +17,9 @@ class GridCellPainter : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
-  /// The part of a cell that the helper takes.
+  /// The helper's part of a cell.
   static QRect HelperRect(const QRect& cell);
-  /// Whether the cell shows its helper: the current row's button, the current cell's drop-down.
+  /// Whether the cell shows its helper: buttons show in the current row, drop-downs in the current cell.
   bool ShowsHelper(int row, int col) const;
 
  private:

@@ -5,7 +5,7 @@
 namespace norvane::ui {
 namespace {
 
-/// What a text is looked for by: without regard to case and accents.
+/// The text without case and accents, for searching.
 QString Folded(const QString& text) {
   QString folded;
   for (const QChar c : text.normalized(QString::NormalizationForm_D)) {
@@ -23,7 +23,7 @@ void GridTableModel::Abandon() {
   endResetModel();
 }
 
-void GridTableModel::CatchUp() {
+void GridTableModel::Sync() {
   if (!grid_) return;
   if (columns_ != grid_->Cols()) {
     beginResetModel();
@@ -61,7 +61,7 @@ int GridTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : columns_;
 }
 
-/// The next row, round the end, that begins with what is looked for; failing that, one with a later cell that does.
+/// The next row, around the end, whose cell of the starting column begins with the value, else one of a later column.
 QModelIndexList GridTableModel::match(const QModelIndex& start, int role, const QVariant& value, int,
                                       Qt::MatchFlags) const {
   const QString wanted = Folded(value.toString());
@@ -78,7 +78,7 @@ QModelIndexList GridTableModel::match(const QModelIndex& start, int role, const 
 
 QVariant GridTableModel::data(const QModelIndex& index, int role) const {
   const int row = index.row() + 1;
-  // Until it has caught up, the view may ask for rows and columns that are gone.
+  // Until the next Sync the view may ask for rows and columns that are gone.
   if (!grid_ || row >= grid_->Rows() || index.column() >= grid_->Cols()) return {};
   switch (role) {
     case Qt::DisplayRole:

@@ -8,20 +8,20 @@
 
 namespace norvane::ui {
 
-/// A grid's data rows for a table view. It holds nothing but the number of rows that the view knows of: a grid that is
-/// filled row by row is caught up with in one step.
+/// A grid's data rows for a table view. It stores only the number of rows that the view knows, so that a grid that is
+/// filled row by row is synchronised in one step.
 class GridTableModel : public QAbstractTableModel {
  public:
   explicit GridTableModel(Grid& grid) : grid_(&grid) {}
 
-  /// The grid is no more; the table is empty from here on.
+  /// The grid is about to be destroyed; the table is empty from here on.
   void Abandon();
-  /// Makes the view know as many rows and columns as there are.
-  void CatchUp();
+  /// Reports rows and columns added or removed since the last call to the view.
+  void Sync();
   /// Anything may have changed.
   void RefreshAll();
   void RefreshRow(int row);
-  /// Which columns hold nothing but figures: those without an alignment of their own stand to the right.
+  /// Which columns hold nothing but figures: those without an alignment of their own are aligned on the right.
   void SetFigures(std::vector<bool> figures) { figures_ = std::move(figures); }
   Qt::Alignment AlignmentOf(int col) const;
   bool IsRightAligned(int col) const { return AlignmentOf(col).testFlag(Qt::AlignRight); }

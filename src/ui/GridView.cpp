@@ -48,7 +48,7 @@ GridView::GridView(Grid& grid, QWidget* parent, const RegionalSettings& settings
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
     if (grid_ && !following_) grid_->SetTopRow(value + 1);
   });
-  CatchUp();
+  Sync();
 }
 
 void GridView::SetLook() {
@@ -97,21 +97,21 @@ QSize GridView::sizeHint() const {
   return {std::clamp(columns, minimumSizeHint().width(), 960), rows + 2 * frameWidth()};
 }
 
-// Catching up.
+// Synchronising.
 
-void GridView::Later() {
+void GridView::ScheduleSync() {
   if (waiting_) return;
   waiting_ = true;
-  QMetaObject::invokeMethod(this, &GridView::CatchUp, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &GridView::Sync, Qt::QueuedConnection);
   viewport()->update();
 }
 
-void GridView::CatchUp() {
+void GridView::Sync() {
   waiting_ = false;
   if (!grid_) return;
   {
     const QScopedValueRollback following(following_, true);
-    table_->CatchUp();
+    table_->Sync();
   }
   if (std::exchange(allWaiting_, false)) {
     MeasureColumns();
@@ -128,7 +128,7 @@ void GridView::ColumnsChanged() {
 
 void GridView::RowsReset() {
   allWaiting_ = true;
-  Later();
+  ScheduleSync();
 }
 
 void GridView::RowsInserted(int, int) {
@@ -144,7 +144,7 @@ void GridView::CellChanged(int row, int) {
 }
 
 void GridView::CursorMoved() {
-  Later();
+  ScheduleSync();
   if (grid_->Row() < 1) return;
   const QScopedValueRollback following(following_, true);
   const QModelIndex cell = table_->index(grid_->Row() - 1, grid_->Col());
@@ -153,7 +153,7 @@ void GridView::CursorMoved() {
   ShowCurrentColumn();
 }
 
-/// Scrolls no further than it must, but all the way back where that shows the column too: the markers stand there.
+/// Scrolls no further than it must, but all the way back where that shows the column too, since the markers are there.
 void GridView::ShowCurrentColumn() {
   const int start = horizontalHeader()->sectionPosition(grid_->Col());
   const int end = start + columnWidth(grid_->Col());
@@ -167,11 +167,11 @@ void GridView::ShowCurrentColumn() {
 }
 
 void GridView::TopRowChanged() {
-  Later();
+  ScheduleSync();
 }
 
 void GridView::EditChanged() {
-  if (waiting_) CatchUp();
+  if (waiting_) Sync();
   if (grid_->Editing()) ShowCurrentColumn();
   editor_->Follow(CurrentCell());
   viewport()->update();
@@ -218,8 +218,8 @@ void GridView::ArrangeColumns() {
   }
 }
 
-/// The last column stretches by itself; figures at the far right would stand apart from their row, so there the widest
-/// column of texts takes the rest. -1 if the last one may.
+/// The column that takes the width left over: -1 for the last one, which stretches by itself. Figures at the far right
+/// would be too far from their row, so then it is the widest column of texts.
 int GridView::ColumnForRest() const {
   int last = -1;
   int widest = -1;
@@ -239,7 +239,7 @@ void GridView::SectionResized(int section, int width) {
   if (grid_) editor_->Place(CurrentCell());
 }
 
-void GridView::TellVisibleRows() {
+void GridView::ReportVisibleRows() {
   if (grid_) grid_->SetVisibleRows(viewport()->height() / verticalHeader()->defaultSectionSize());
 }
 
@@ -247,13 +247,13 @@ void GridView::TellVisibleRows() {
 
 void GridView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
-  TellVisibleRows();
+  ReportVisibleRows();
   if (grid_ && !allWaiting_) ArrangeColumns();
 }
 
 void GridView::updateGeometries() {
   QTableView::updateGeometries();
-  TellVisibleRows();
+  ReportVisibleRows();
 }
 
 void GridView::scrollContentsBy(int dx, int dy) {
@@ -264,7 +264,7 @@ void GridView::scrollContentsBy(int dx, int dy) {
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
   AcceptInputMethods();
-  // A press on a heading, or with another button of the mouse, ends no edit.
+  // A press on a heading, or of another mouse button, ends no edit.
   if (grid_) editor_->TakeKeyboard();
   viewport()->update();
 }
@@ -274,7 +274,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
   AcceptInputMethods();
 }
 
-/// The toolkit turns them off whenever it finds that it edits nothing here; an accented letter may begin an edit, too.
+/// The toolkit turns input methods off for a view that edits nothing itself; an accented letter may begin an edit, too.
 void GridView::AcceptInputMethods() {
   setAttribute(Qt::WA_InputMethodEnabled);
 }
@@ -287,7 +287,7 @@ void GridView::focusOutEvent(QFocusEvent* event) {
 bool GridView::viewportEvent(QEvent* event) {
   const bool needsRows = event->type() == QEvent::Paint || event->type() == QEvent::MouseButtonPress ||
                          event->type() == QEvent::MouseButtonDblClick || event->type() == QEvent::Wheel;
-  if (waiting_ && needsRows) CatchUp();
+  if (waiting_ && needsRows) Sync();
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     if (ShowCutOffText(help->pos(), help->globalPos())) return true;
@@ -340,10 +340,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   Search(event->text());
 }
 
-/// Letters typed in a list lead to the next row that has them at the beginning of a cell, of the first one if possible.
+/// Goes to the next row with a cell that begins with the letters typed, in the first column if possible.
 void GridView::Search(const QString& letters) {
   if (!grid_ || grid_->Kind() != GridKind::List) return;
-  if (waiting_) CatchUp();
+  if (waiting_) Sync();
   const int first = FirstShownColumn();
   if (first < 0) return;
   {
@@ -399,7 +399,7 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!grid_ || event->button() != Qt::LeftButton) return;
   const QModelIndex cell = indexAt(event->pos());
   if (!cell.isValid()) return;
-  // The first click may have brought the helper there.
+  // The first click may have made the helper visible.
   if (IsOnHelper(event->pos())) return ClickOnHelper(cell.row() + 1, cell.column());
   grid_->UserDoubleClick(cell.row() + 1, cell.column());
   editor_->OpenList();

@@ -15,11 +15,11 @@ class GridCellEditor;
 class GridCellPainter;
 class GridTableModel;
 
-/// The table that shows a grid. The grid decides everything: the view hands it keys, text and clicks, and draws what
-/// has become of them. However often the grid changes, the view catches up once, before it paints or takes input.
+/// The table that shows a grid. The grid decides everything: the view passes keys, text and clicks to it and draws the
+/// result. However often the grid changes, the view synchronises once, before it paints or takes input.
 class GridView : public QTableView, private GridObserver {
  public:
-  /// Amounts and dates are recognised as the region writes them.
+  /// Amounts and dates are recognised in the region's form.
   GridView(Grid& grid, QWidget* parent, const RegionalSettings& settings);
   Binding* Bound() const { return binding_; }
 
@@ -54,8 +54,8 @@ class GridView : public QTableView, private GridObserver {
 
   void SetLook();
   void Abandon();
-  void Later();
-  void CatchUp();
+  void ScheduleSync();
+  void Sync();
   int ColumnForRest() const;
   void Search(const QString& letters);
   int FirstShownColumn() const;
@@ -64,7 +64,7 @@ class GridView : public QTableView, private GridObserver {
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);
   void FollowTopRow();
   void ShowCurrentColumn();
-  void TellVisibleRows();
+  void ReportVisibleRows();
   QRect CurrentCell() const;
   void SectionResized(int section, int width);
   void AcceptInputMethods();
@@ -80,7 +80,7 @@ class GridView : public QTableView, private GridObserver {
   CellTexts texts_;
   std::map<int, int> userWidths_;   ///< by column, in pixels
   std::vector<ColumnNeeds> needs_;  ///< by column
-  bool waiting_ = false;            ///< it has to catch up
+  bool waiting_ = false;            ///< for Sync
   bool allWaiting_ = true;
   bool arranging_ = false;
   bool following_ = false;

@@ -11,12 +11,13 @@
 #include <QTextBrowser>
 #include <QToolBar>
 
+#include "ui/Convert.h"
 #include "ui/Theme.h"
 
 namespace norvane::ui {
 namespace {
 
-/// What a page calls itself, its file's name if it is silent.
+/// The title of a page, or its file name if it has none.
 QString TitleOf(const QString& path) {
   QFile file(path);
   static const QRegularExpression title(
@@ -27,7 +28,7 @@ QString TitleOf(const QString& path) {
   return match.hasMatch() ? match.captured(1) : QFileInfo(path).completeBaseName();
 }
 
-/// The pages that a page leads to, in its order.
+/// The pages that a page links to, in its order.
 QStringList LinksOf(const QString& path) {
   QFile file(path);
   static const QRegularExpression link("href=\"([^\"#/:]+\\.html)", QRegularExpression::CaseInsensitiveOption);
@@ -57,7 +58,7 @@ HelpViewer::HelpViewer(const std::filesystem::path& folder)
   page_->setOpenExternalLinks(true);
   contents_->setAccessibleName(tr("Contents"));
   BuildTools();
-  const QString path = QString::fromStdU16String(folder.u16string());
+  const QString path = FromPath(folder);
   ListPages(path);
   connect(contents_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
     if (item) page_->setSource(item->data(Qt::UserRole).toUrl());

@@ -10,7 +10,7 @@ class QTextBrowser;
 
 namespace norvane::ui {
 
-/// The help window: the pages of a folder by their titles on the left, the page read on the right.
+/// The help window: the titles of a folder's pages on the left, the current page on the right.
 class HelpViewer : public QMainWindow {
  public:
   static constexpr const char* kFirstPage = "index.html";

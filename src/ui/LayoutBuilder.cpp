@@ -12,7 +12,7 @@
 
 #include "forms/Controls.h"
 #include "ui/Convert.h"
-#include "ui/StripLayout.h"
+#include "ui/FlowLayout.h"
 
 namespace norvane::ui {
 namespace {
@@ -24,7 +24,7 @@ constexpr int kMargin = 8;
 constexpr int kSpacing = 8;
 constexpr int kBetweenPairs = 14;
 
-/// A group without caption only holds its content together.
+/// A group without caption is no more than its content.
 bool IsPlain(const Node& group) {
   const auto* frame = dynamic_cast<const Frame*>(group.control);
   return group.caption.empty() && (!frame || frame->Caption().empty());
@@ -36,14 +36,14 @@ bool IsBand(const Node& node) {
          node.children.front().kind == Kind::Strip;
 }
 
-/// The characters that a text box asks for, with or without its label; 0 for anything else.
+/// The width in characters of a text box, with or without its label; 0 for anything else.
 int LengthOf(const Node& node) {
   if (node.kind == Kind::Field) return LengthOf(node.children.front());
   const auto* box = node.kind == Kind::Control ? dynamic_cast<const TextBox*>(node.control) : nullptr;
   return box ? box->Style().characters : 0;
 }
 
-/// A row of text boxes alone is divided by how much each is to hold: a state takes less than a city.
+/// A row of nothing but text boxes is divided by their lengths: a state takes less than a city.
 bool SharesRoomByLength(const Node& row) {
   const auto isPlainText = [](const Node& child) { return LengthOf(child) > 0 && child.stretch == 0; };
   return std::all_of(row.children.begin(), row.children.end(), isPlainText);
@@ -168,7 +168,7 @@ void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page, i
 
 LayoutBuilder::Piece LayoutBuilder::BuildStrip(const Node& node, QWidget& page) {
   auto* frame = new QFrame(&page);
-  auto* strip = new StripLayout(frame);
+  auto* strip = new FlowLayout(frame);
   strip->setContentsMargins(0, 0, 0, 0);
   for (const auto& child : node.children) {
     if (child.kind == Kind::Space) {

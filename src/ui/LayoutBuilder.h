@@ -18,13 +18,13 @@ class LayoutBuilder {
   using Made = std::function<void(Control&, Binding&)>;
   LayoutBuilder(const WidgetFactory& factory, Made made) : factory_(factory), made_(std::move(made)) {}
 
-  /// Fills the page. Strips along its edges take its full width; the rest stands within margins.
+  /// Fills the page. Strips along its edges take its full width; the rest has margins.
   void Fill(QWidget& page, const layout::Node& root);
-  /// The status bar met on the way, which belongs to the window's edge and not into the page.
-  QStatusBar* MetStatusBar() const { return statusBar_; }
+  /// The form's status bar, which belongs to the window and not to the page; null if there is none.
+  QStatusBar* FoundStatusBar() const { return statusBar_; }
 
  private:
-  /// What a node becomes: a widget or a layout; neither for what leaves no trace.
+  /// What a node becomes: a widget, a layout, or neither.
   struct Piece {
     QWidget* widget = nullptr;
     QLayout* layout = nullptr;

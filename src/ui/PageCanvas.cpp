@@ -21,7 +21,7 @@ constexpr double kThumbnail = 0.2;
 constexpr double kSmallest = 0.1;
 constexpr double kZoomStep = 1.15;
 
-/// What is smaller than its room stands in the middle.
+/// Centres what is smaller than its room.
 double Margin(int room, double all) {
   return std::max<double>(kGap, (room - all) / 2);
 }
@@ -110,7 +110,7 @@ QRectF PageCanvas::PlaceOf(int index) const {
   return {corner + QPointF(column * step.width(), row * step.height()) - scrolled, page};
 }
 
-/// The one the user is at as long as its row is the first in view, else the first of that row.
+/// The current page while its row is the first in view, else the first page of that row.
 int PageCanvas::PageInView() const {
   for (int index = 0; index < PageCount(); index += columns_) {
     if (PlaceOf(index).bottom() < viewport()->height() / 3.0) continue;
@@ -136,7 +136,7 @@ void PageCanvas::paintEvent(QPaintEvent* event) {
     if (!place.intersects(event->rect())) continue;
     const bool isCurrent = index + 1 == current_ && PageCount() > 1;
     painter.fillRect(place.adjusted(-1, -1, 1, 1), isCurrent ? colours.accent : colours.edge);
-    painter.fillRect(place, Qt::white);  // paper is white by night as well
+    painter.fillRect(place, Qt::white);  // paper is white in the dark theme too
     painter.save();
     painter.setClipRect(place);
     PaintPage(painter, *pages_, static_cast<std::size_t>(index), place.topLeft(), scale_);
@@ -191,7 +191,7 @@ void PageCanvas::mousePressEvent(QMouseEvent* event) {
   dragged_ = event->pos();
 }
 
-/// The mouse takes the paper along.
+/// Drags the paper along with the mouse.
 void PageCanvas::mouseMoveEvent(QMouseEvent* event) {
   if (!(event->buttons() & Qt::LeftButton)) return;
   const QPoint moved = event->pos() - dragged_;

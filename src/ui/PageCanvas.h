@@ -9,25 +9,25 @@
 
 namespace norvane::ui {
 
-/// Pages on a table, as many side by side as there is room for, to be scrolled.
+/// Shows pages in a scrolling area, as many side by side as there is room for.
 class PageCanvas : public QAbstractScrollArea {
  public:
   explicit PageCanvas(QWidget* parent);
 
-  /// The pages are not owned and have to stay until others are shown; nothing shows none.
+  /// The pages are not owned and must outlive the next call; null shows none.
   void Show(const pages::Pages* pages);
   int PageCount() const { return pages_ ? static_cast<int>(pages_->pages.size()) : 0; }
 
-  /// `percent` counts at ZoomChoice::Percent alone.
+  /// `percent` is used with ZoomChoice::Percent only.
   void SetZoom(ZoomChoice choice, double percent);
-  /// The scale in percent that is in force, whatever the choice.
+  /// The current scale in percent, whatever the choice.
   double Percent() const;
 
-  /// The page that the user is at, counted from 1; 0 if there is none.
+  /// The current page, from 1; 0 if there is none.
   int CurrentPage() const { return std::min(current_, PageCount()); }
   void GoToPage(int page);
 
-  /// The user has turned to another page, or wants the pages larger or smaller by a factor.
+  /// Called when the user turns to another page, and when the user scales the pages by a factor.
   std::function<void()> turned;
   std::function<void(double factor)> zoomed;
 
@@ -48,7 +48,7 @@ class PageCanvas : public QAbstractScrollArea {
   int Rows() const;
   int PageInView() const;
   void Turn(int page);
-  /// Where a page stands in the viewport now.
+  /// Where a page is in the viewport now.
   QRectF PlaceOf(int index) const;
   QSizeF PageSize() const;
 
@@ -58,7 +58,7 @@ class PageCanvas : public QAbstractScrollArea {
   double scale_ = 1;  ///< pixels to a point
   int columns_ = 1;
   int current_ = 1;
-  bool going_ = false;  ///< scrolling by our own will, which turns no page
+  bool going_ = false;  ///< scrolling by code, which turns no page
   QPoint dragged_;
 };
 

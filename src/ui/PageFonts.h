@@ -7,7 +7,7 @@
 namespace norvane::ui {
 
 /// The toolkit's font for a page's face, unhinted and without kerning, as the layout has measured it. Where Arial and
-/// Courier New are not installed, the faces made to their metrics stand in.
+/// Courier New are not installed, the faces made to their metrics take their place.
 QFont PageFont(pages::Face face, double points);
 
 /// Design figures of the machine's fonts.

@@ -24,7 +24,7 @@ QPageLayout LetterPortrait();
 using PageNumbers = std::vector<std::size_t>;
 PageNumbers AllPagesOf(const pages::Pages& document);
 
-/// Hears of each page before it is painted; false ends the work.
+/// Called with each page before it is painted; false cancels.
 using PageListener = std::function<bool(std::size_t page)>;
 
 enum class Painted {

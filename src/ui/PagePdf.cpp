@@ -15,13 +15,13 @@ namespace {
 
 constexpr int kPdfResolution = 1200;
 
-/// The user's documents, or the home folder of who has no such folder.
+/// The user's documents folder, or the home folder if there is none.
 QString SuggestedFolder() {
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
-/// A name to begin with: the document's title, without what names of files can't have.
+/// The document's title as a file name.
 QString SuggestedName(QString title) {
   return title.replace('/', '-') + ".pdf";
 }

@@ -10,7 +10,7 @@ namespace norvane::ui {
 
 struct PdfOutcome {
   Painted painted = Painted::Failed;
-  QString why;  ///< it failed
+  QString why;  ///< the reason of a failure
 };
 
 /// Writes the pages to a PDF of real text with its fonts embedded, under the document title given. Unless all are
@@ -18,7 +18,8 @@ struct PdfOutcome {
 PdfOutcome WritePdf(const pages::Pages& document, const QString& title, const QString& file,
                     const PageListener& onPage = {});
 
-/// Asks for a file and saves the pages there as a PDF, with a progress box that can cancel. Tells if that fails.
+/// Asks for a file and saves the pages there as a PDF, with a progress box that can cancel. Reports a failure in a
+/// box.
 void SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent);
 
 }  // namespace norvane::ui

@@ -13,7 +13,7 @@
 namespace norvane::ui {
 namespace {
 
-/// A printer without a paper of its own, such as a file, gets the one that pages are made for.
+/// A printer without paper of its own, such as a file, gets the paper that pages are made for.
 void SetUpPaper(QPrinter& printer) {
   if (!printer.isValid() || printer.outputFormat() != QPrinter::NativeFormat) {
     printer.setPageLayout(LetterPortrait());
@@ -23,7 +23,7 @@ void SetUpPaper(QPrinter& printer) {
   printer.setFullPage(true);
 }
 
-/// Switched off or removed since it was chosen, which the toolkit would pass over in silence.
+/// Whether the printer was switched off or removed since it was chosen, which the toolkit ignores.
 bool IsGone(const QPrinter& printer) {
   return printer.outputFileName().isEmpty() && QPrinterInfo(printer).isNull();
 }

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 
-#include "forms/Preview.h"
-
 namespace norvane::ui {
 namespace {
 
@@ -13,18 +11,18 @@ constexpr int kPatienceMilliseconds = 300;
 
 PageProgress::PageProgress(const QString& document, const QString& device, std::size_t pagesOfDocument,
                            std::size_t toPrint, QWidget* parent)
-    : box_(QString(), kPrintingCancel, 0, static_cast<int>(toPrint), parent),
+    : box_(QString(), "Cancel", 0, static_cast<int>(toPrint), parent),
       tail_(QString(" %1\n").arg(pagesOfDocument) +
-            QString::asprintf(kPrintingDevice, document.toUtf8().constData(), device.toUtf8().constData())) {
-  box_.setWindowTitle(kPrintingCaption);
+            QString::asprintf("on the %s on %s", qUtf8Printable(document), qUtf8Printable(device))) {
+  box_.setWindowTitle("Printing...");
   box_.setWindowModality(Qt::ApplicationModal);
   box_.setMinimumDuration(kPatienceMilliseconds);
   box_.setMinimumWidth(360);
 }
 
-// Pages are counted when they are begun, so that the box stands until the last is on paper.
+// Pages are counted when they are begun, so that the box stays until the last one is on paper.
 bool PageProgress::Next(std::size_t page) {
-  box_.setLabelText(QString::asprintf(kPrintingPage, static_cast<int>(page) + 1) + tail_);
+  box_.setLabelText(QString::asprintf("Now printing Page %d of", static_cast<int>(page) + 1) + tail_);
   box_.setValue(begun_++);
   QApplication::processEvents();
   return !box_.wasCanceled();

@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 
 #include "ui/Convert.h"
+#include "ui/FlowLayout.h"
 #include "ui/PagePdf.h"
 #include "ui/PagePrinter.h"
-#include "ui/StripLayout.h"
 #include "ui/Theme.h"
 #include "ui/WidgetFactory.h"
 
@@ -26,7 +26,7 @@ QStringList ZoomTexts() {
   return QString(kZoomChoices).split('|');
 }
 
-/// The choices stand in the order of their texts, behind Percent.
+/// The choices follow Percent in the order of their texts.
 ZoomChoice ChoiceOfText(int index) {
   return static_cast<ZoomChoice>(index + 1);
 }
@@ -83,7 +83,7 @@ QPushButton* PreviewWidget::AddTool(const char* icon, const QString& name,
 
 void PreviewWidget::BuildBar() {
   bar_->setProperty("strip", "top");
-  auto* strip = new StripLayout(bar_);
+  auto* strip = new FlowLayout(bar_);
   strip->setContentsMargins(4, 2, 4, 2);
   const auto turn = [](int step) { return [step](Preview& p) { p.SetCurrentPage(p.CurrentPage() + step); }; };
   first_ = AddTool("first", "First Page", [](Preview& p) { p.SetCurrentPage(1); });
@@ -111,7 +111,7 @@ void PreviewWidget::BuildBar() {
 
 void PreviewWidget::BuildZoomButton() {
   zoom_ = new QPushButton(bar_);
-  zoom_->setFocusPolicy(Qt::TabFocus);  // the mouse leaves the keyboard to the pages
+  zoom_->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus on the pages
   zoom_->setToolTip("Zoom");
   zoom_->setAccessibleName("Zoom");
   auto* menu = new QMenu(zoom_);

@@ -15,7 +15,7 @@ namespace norvane::ui {
 
 class WidgetFactory;
 
-/// A report's document to look at, page by page, and to print or save: the page bar above the pages.
+/// Shows a report's document below the bar that turns, zooms, prints and saves its pages.
 class PreviewWidget : public QFrame {
  public:
   PreviewWidget(Preview& preview, QWidget* parent);
@@ -29,7 +29,7 @@ class PreviewWidget : public QFrame {
   void Follow(Aspect aspect);
   void FollowBar();
   QString ZoomText() const;
-  /// What the user does to the preview; nothing once its form is no more.
+  /// Runs an action of the user's on the preview, unless its form has been destroyed.
   void Act(const std::function<void(Preview&)>& action);
 
   Preview* preview_;
@@ -44,7 +44,7 @@ class PreviewWidget : public QFrame {
   QPushButton *print_ = nullptr, *save_ = nullptr;
 };
 
-/// Registers the preview, which the reports bring with them.
+/// Registers the widget of the preview.
 void RegisterPreview(WidgetFactory& factory);
 
 }  // namespace norvane::ui

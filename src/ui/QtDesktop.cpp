@@ -26,7 +26,7 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kAppearMilliseconds = 250;
-constexpr int kSearchMilliseconds = 1000;  // letters that follow one another sooner are one word to look for
+constexpr int kSearchMilliseconds = 1000;  // letters typed within this time make one word to search for
 
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   switch (buttons) {
@@ -79,15 +79,11 @@ bool IsMountedMedium(const QString& root) {
   return below("/media/") || below("/run/media/") || below("/mnt/");
 }
 
-std::filesystem::path ToPath(const QString& path) {
-  return {path.toStdU16String()};
-}
-
-/// The folder asked for, or the one of its name that was installed: a folder of the user's own holds data alone.
+/// The folder asked for, or the installed one of its name: the user's own folder may hold no pages.
 std::filesystem::path HelpPages(const std::filesystem::path& folder) {
   std::error_code failed;
   if (std::filesystem::exists(folder / HelpViewer::kFirstPage, failed)) return folder;
-  const QString name = QString::fromStdU16String(folder.filename().u16string());
+  const QString name = FromPath(folder.filename());
   return ToPath(QStandardPaths::locate(QStandardPaths::AppDataLocation, name, QStandardPaths::LocateDirectory));
 }
 
@@ -141,8 +137,8 @@ void QtDesktop::FormShown(Form& form) {
   const bool isNew = !window;
   if (isNew) window = new FormWindow(form, widgets_, focus_);
   FormWindow* owner = form.Owner() ? WindowOf(*form.Owner()) : nullptr;
-  // A window that its owner shows while it loads itself comes up with the owner, as there is nothing yet to stand
-  // above.
+  // A window that its owner shows while the owner is still loading comes up with the owner, since there is no window
+  // yet to stay above.
   if (form.Owner() && !owner && !form.Style().goesWithOwner) return;
   window->Present(owner);
   if (isNew && form.Style().goesWithOwner) LetAppear(*window);
@@ -155,7 +151,7 @@ void QtDesktop::PresentOwned(FormWindow& owner) {
   }
 }
 
-/// A notice is there to be seen during the work that follows, which leaves the event loop no time. Timers wait.
+/// Waits until a notice is on the screen: the work that follows leaves the event loop no time. Timers wait.
 void QtDesktop::LetAppear(QWidget& window) {
   const QScopedValueRollback holding(holdTimers_, true);
   QElapsedTimer patience;
@@ -225,7 +221,7 @@ void QtDesktop::TimerChanged(Timer& timer) {
   auto& clock = timers_[&timer];
   if (clock) {
     clock->stop();
-    clock.release()->deleteLater();  // it may be the one whose tick runs
+    clock.release()->deleteLater();  // its tick may be running
   }
   if (!timer.Running()) {
     timers_.erase(&timer);

@@ -26,11 +26,9 @@ class QtDesktop : public Desktop {
   explicit QtDesktop(const RegionalSettings& settings = {}, Theme theme = Theme::System);
   ~QtDesktop() override;
 
-  /// Where rooms register the widgets of controls of their own, before the first form is shown.
-  WidgetFactory& Widgets() { return widgets_; }
   /// Runs until the program has ended.
   void Run();
-  /// The window of a form, nothing while it was never shown.
+  /// The window of a form, null if it was never shown.
   FormWindow* WindowOf(const Form& form) const;
 
   Date Now() const override;

@@ -17,8 +17,8 @@
 namespace norvane::ui {
 namespace {
 
-/// Draws an SVG whose strokes are "currentColor" in the colour that text has right now, so a change of theme needs no
-/// new icons.
+/// Draws an SVG whose strokes are "currentColor" in the current colour of text, so that a change of theme needs no new
+/// icons.
 class StrokeIcon : public QIconEngine {
  public:
   explicit StrokeIcon(QByteArray svg) : svg_(std::move(svg)) {}

@@ -23,14 +23,14 @@ struct Colours {
 
   static const Colours& Light();
   static const Colours& Dark();
-  /// The theme that a palette belongs to, told by how light its window is.
+  /// The theme of a palette, recognised by the lightness of its window.
   static const Colours& Of(const QPalette& palette);
   /// A model's colour, readable on this theme's window.
   QColor Map(Colour colour) const { return colour == Colour::Red ? red : text; }
 };
 
-/// Gives the application its style, palette, font and style sheet. `System` takes light or dark from the palette that
-/// the platform came with.
+/// Sets the application's style, palette, font and style sheet. `System` takes light or dark from the platform's
+/// palette.
 void ApplyTheme(QApplication& application, Theme theme);
 
 /// A picture of resources/icons in the palette's text colour, at any size. Empty if there is none of that name.

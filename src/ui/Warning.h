@@ -6,7 +6,7 @@ class QWidget;
 
 namespace norvane::ui {
 
-/// Tells of something that a window could not do for the user.
+/// Reports in a box what a window could not do for the user.
 void Warn(QWidget* parent, const QString& text);
 
 }  // namespace norvane::ui

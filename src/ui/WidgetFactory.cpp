@@ -3,8 +3,8 @@
 namespace norvane::ui {
 
 Binding* WidgetFactory::Make(Control& control, QWidget* parent) const {
-  for (std::size_t last = makers_.size(); last-- > 0;) {
-    if (Binding* binding = makers_[last](control, parent)) return binding;
+  for (const auto& make : makers_) {
+    if (Binding* binding = make(control, parent)) return binding;
   }
   return nullptr;
 }

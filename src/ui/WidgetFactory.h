@@ -9,14 +9,13 @@
 
 namespace norvane::ui {
 
-/// Makes the widget of a control by the control's class. Rooms that bring controls of their own register a maker.
+/// Makes the widget of a control by the control's class.
 class WidgetFactory {
  public:
   /// Makes a widget below `parent`, bound to `control`.
   template <class ControlClass>
   using Maker = std::function<Binding*(ControlClass& control, QWidget* parent)>;
 
-  /// A maker registered later is asked first.
   template <class ControlClass>
   void Register(Maker<ControlClass> maker) {
     makers_.push_back([maker = std::move(maker)](Control& control, QWidget* parent) -> Binding* {
@@ -25,7 +24,7 @@ class WidgetFactory {
     });
   }
 
-  /// Nothing for a control that has no widget, such as a timer. The parent owns the widget.
+  /// Null for a control that has no widget, such as a timer. The parent owns the widget.
   Binding* Make(Control& control, QWidget* parent) const;
 
  private:

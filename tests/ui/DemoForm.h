@@ -60,7 +60,7 @@ class DemoForm : public Form {
   MenuEntry mnuExit{mnuFile, "mnuExit", "E&xit"};
 
   std::vector<std::string> log;
-  /// The log since the last call, joined by blanks.
+  /// The log since the last call, joined by spaces.
   std::string TakeLog() {
     std::string all;
     for (const auto& entry : log) all += (all.empty() ? "" : " ") + entry;
@@ -125,7 +125,7 @@ class CalendarForm : public Form {
 
   TabControl SSTab1{*this, "SSTab1"};
   MonthView MonthView1{*this, "MonthView1"};
-  TextBox txtNote{*this, "txtNote", {.lines = 3}};
+  TextBox txtNote{*this, "txtNote"};
   Button btnCancel{*this, "btnCancel", {.caption = "&Cancel", .toolTip = "", .icon = "cancel", .isCancel = true}};
 
   Date clicked;

@@ -175,7 +175,7 @@ TEST_F(GridInWindow, LettersLookForARowOfAList) {
   const int together = QApplication::keyboardInputInterval();
   QApplication::setKeyboardInputInterval(0);
   for (const char* letter : {"m", "6", "v"}) {
-    QTest::qWait(2);  // each looks anew
+    QTest::qWait(2);  // each measures again
     Type(letter);
   }
   QApplication::setKeyboardInputInterval(together);

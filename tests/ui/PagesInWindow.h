@@ -8,7 +8,7 @@
 
 namespace norvane::ui {
 
-/// A report of as many pages as it is told.
+/// A report of a number of pages.
 class PagesForm : public Form {
  public:
   static constexpr const char* kName = "PagesForm";

@@ -34,7 +34,7 @@ class Paper : public PagesInWindow {
     printer.setPageSize(QPageSize(paper));
   }
 
-  /// Answers the next box of this kind once it stands.
+  /// Answers the next box of this kind once it is open.
   template <class Box>
   static void Answer(std::function<void(Box&)> answer) {
     QTimer::singleShot(0, [answer] {
@@ -43,7 +43,7 @@ class Paper : public PagesInWindow {
     });
   }
 
-  /// Every text stands where the layout put it, moved and scaled as told, and nothing else does.
+  /// Every text is where the layout put it, moved and scaled as given, and there is no other.
   void ExpectTexts(const PdfPage& page, std::size_t index, double left = 0, double scale = 1) {
     qsizetype count = 0;
     for (const QString& text : TextsOf(index)) count += text.count(' ') + 1;
@@ -80,7 +80,7 @@ TEST_F(Paper, APdfHoldsRealTextInItsPlacesItsTitleAndItsFonts) {
   EXPECT_EQ(inOrder.toStdString(), TextsOf(0).join(' ').toStdString());
   EXPECT_TRUE(ReadPdf("pdfinfo", {File("balances.pdf")}).contains(QRegularExpression("Title: +Client Balances")));
   EXPECT_TRUE(ReadPdf("pdffonts", {File("balances.pdf")}).contains(QRegularExpression("yes +(yes|no) +yes")))
-      << "embedded, and with the text they stand for";
+      << "embedded, and with the text that they show";
 }
 
 TEST_F(Paper, APrinterGetsThePagesWholeOnLetterA4AndSmallerPaper) {
@@ -129,8 +129,8 @@ TEST_F(Paper, PrintingTellsWhereItIsAndStopsAtCancel) {
   });
   EXPECT_EQ(PrintOn(printer, Document(), AllPagesOf(Document()), &Window()), Painted::Cancelled);
   EXPECT_EQ(caption, "Printing...");
-  const QString told = "Now printing Page \\d+ of 2000\non the Client Balances on ";
-  EXPECT_TRUE(QRegularExpression(told + QRegularExpression::escape(File("cancelled.pdf"))).match(label).hasMatch())
+  const QString seen = "Now printing Page \\d+ of 2000\non the Client Balances on ";
+  EXPECT_TRUE(QRegularExpression(seen + QRegularExpression::escape(File("cancelled.pdf"))).match(label).hasMatch())
       << label.toStdString();
   EXPECT_FALSE(QFile::exists(File("cancelled.pdf")));
 }
@@ -169,20 +169,20 @@ TEST_F(Paper, TheBarSavesAndPrintsThroughTheSystemsDialogs) {
   EXPECT_EQ(PagesOfPdf(File("saved.pdf")).size(), 3u);
   EXPECT_EQ(PagesOfPdf(File("printed.pdf")).size(), 3u);
 
-  QString told;
+  QString seen;
   const auto noteWarning = [&] {
     Answer<QMessageBox>([&](QMessageBox& box) {
-      told = box.text();
+      seen = box.text();
       box.accept();
     });
   };
   const auto missing = [&] { return File("missing/file.pdf").toStdString(); };
   noteWarning();
   saveAs("missing/file.pdf");
-  EXPECT_THAT(told.toStdString(), testing::StartsWith("The file " + missing() + " could not be written: "));
+  EXPECT_THAT(seen.toStdString(), testing::StartsWith("The file " + missing() + " could not be written: "));
   noteWarning();
   printTo("missing/file.pdf");
-  EXPECT_EQ(told.toStdString(), "The document could not be printed on " + missing() + ".");
+  EXPECT_EQ(seen.toStdString(), "The document could not be printed on " + missing() + ".");
 }
 
 }  // namespace

@@ -4,16 +4,16 @@
 #include <QLabel>
 #include <QPointer>
 
-#include "ui/StripLayout.h"
+#include "ui/FlowLayout.h"
 
 namespace norvane::ui {
 namespace {
 
-TEST(StripLayout, GoesWithTheLayoutsThatStandInIt) {
+TEST(FlowLayout, GoesWithTheLayoutsThatStandInIt) {
   QPointer<QLayout> inner;
   {
     QWidget window;
-    auto* strip = new StripLayout(&window);
+    auto* strip = new FlowLayout(&window);
     strip->AddWidget(new QLabel("first"));
     for (int group = 0; group < 3; ++group) {
       auto* pair = new QHBoxLayout;

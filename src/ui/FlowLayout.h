@@ -5,12 +5,12 @@
 
 namespace norvane::ui {
 
-/// Side by side at natural size, going on in a further line where the width ends, so that a narrow window cuts no
-/// button off. An expanding spacer pushes what follows to the right edge of its line.
-class StripLayout : public QLayout {
+/// Places widgets side by side at natural size and continues on a new line where the width ends, so that a narrow
+/// window cuts no button off. An expanding spacer pushes what follows to the right edge of its line.
+class FlowLayout : public QLayout {
  public:
-  explicit StripLayout(QWidget* parent);
-  ~StripLayout() override;
+  explicit FlowLayout(QWidget* parent);
+  ~FlowLayout() override;
 
   void AddWidget(QWidget* widget) { addWidget(widget); }
   void AddLayout(QLayout* layout);

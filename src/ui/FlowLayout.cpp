@@ -1,4 +1,4 @@
-#include "ui/StripLayout.h"
+#include "ui/FlowLayout.h"
 
 #include <algorithm>
 
@@ -14,12 +14,12 @@ int HeightOf(const QList<QLayoutItem*>& line) {
   return height;
 }
 
-/// What an item takes: labels and fields never less than they need.
+/// The size of an item: labels and fields are never smaller than they need to be.
 QSize NeedOf(const QLayoutItem& item) {
   return item.sizeHint().expandedTo(item.minimumSize()).boundedTo(item.maximumSize());
 }
 
-/// Goes on in a new line. A label goes along with the field that follows it.
+/// Begins a new line. A label moves with the field that follows it.
 void Break(QList<QList<QLayoutItem*>>& lines) {
   QList<QLayoutItem*>& full = lines.back();
   QList<QLayoutItem*> next;
@@ -29,30 +29,30 @@ void Break(QList<QList<QLayoutItem*>>& lines) {
 
 }  // namespace
 
-StripLayout::StripLayout(QWidget* parent) : QLayout(parent) {
+FlowLayout::FlowLayout(QWidget* parent) : QLayout(parent) {
   setContentsMargins(10, 5, 10, 5);
   setSpacing(4);
 }
 
-StripLayout::~StripLayout() {
-  // A layout among them takes itself out of the list as it goes.
+FlowLayout::~FlowLayout() {
+  // A layout among them takes itself out of the list when it is deleted.
   while (!items_.isEmpty()) delete items_.takeFirst();
 }
 
-void StripLayout::AddLayout(QLayout* layout) {
+void FlowLayout::AddLayout(QLayout* layout) {
   addChildLayout(layout);
   addItem(layout);
 }
 
-void StripLayout::AddStretch() {
+void FlowLayout::AddStretch() {
   addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));
 }
 
-QLayoutItem* StripLayout::takeAt(int index) {
+QLayoutItem* FlowLayout::takeAt(int index) {
   return index >= 0 && index < items_.size() ? items_.takeAt(index) : nullptr;
 }
 
-QList<StripLayout::Line> StripLayout::LinesFor(int width) const {
+QList<FlowLayout::Line> FlowLayout::LinesFor(int width) const {
   QList<Line> lines{{}};
   for (auto* item : items_) {
     if (item->isEmpty() && !item->spacerItem()) continue;
@@ -62,13 +62,13 @@ QList<StripLayout::Line> StripLayout::LinesFor(int width) const {
   return lines;
 }
 
-int StripLayout::WidthOf(const Line& line) const {
+int FlowLayout::WidthOf(const Line& line) const {
   int width = 0;
   for (const auto* item : line) width += NeedOf(*item).width() + spacing();
   return std::max(0, width - spacing());
 }
 
-int StripLayout::heightForWidth(int width) const {
+int FlowLayout::heightForWidth(int width) const {
   const QMargins margins = contentsMargins();
   const auto lines = LinesFor(width - margins.left() - margins.right());
   int height = margins.top() + margins.bottom() + spacing() * static_cast<int>(lines.size() - 1);
@@ -76,20 +76,20 @@ int StripLayout::heightForWidth(int width) const {
   return height;
 }
 
-QSize StripLayout::sizeHint() const {
+QSize FlowLayout::sizeHint() const {
   const QMargins margins = contentsMargins();
   const Line all = LinesFor(QWIDGETSIZE_MAX).front();
   return {WidthOf(all) + margins.left() + margins.right(), HeightOf(all) + margins.top() + margins.bottom()};
 }
 
-QSize StripLayout::minimumSize() const {
+QSize FlowLayout::minimumSize() const {
   QSize widest;
   for (const auto* item : items_) widest = widest.expandedTo(NeedOf(*item));
   const QMargins margins = contentsMargins();
   return widest + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
 }
 
-void StripLayout::setGeometry(const QRect& rect) {
+void FlowLayout::setGeometry(const QRect& rect) {
   QLayout::setGeometry(rect);
   QRect inner = rect.marginsRemoved(contentsMargins());
   const auto lines = LinesFor(inner.width());
@@ -100,7 +100,7 @@ void StripLayout::setGeometry(const QRect& rect) {
   }
 }
 
-void StripLayout::Place(const Line& line, const QRect& rect) const {
+void FlowLayout::Place(const Line& line, const QRect& rect) const {
   const auto isSpacer = [](QLayoutItem* item) { return item->spacerItem() != nullptr; };
   const auto spacers = static_cast<int>(std::count_if(line.begin(), line.end(), isSpacer));
   const int slack = spacers ? std::max(0, rect.width() - WidthOf(line)) / spacers : 0;

@@ -1,0 +1,45 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "ui/Convert.h"
+#include "ui/StandardWidgets.h"
+
+namespace norvane::ui {
+namespace {
+
+void FillCombo(QComboBox& widget, const ComboBox& combo) {
+  const QSignalBlocker quiet(&widget);
+  widget.clear();
+  for (const auto& item : combo.Items()) widget.addItem(ToQt(item));
+}
+
+void ShowComboText(QComboBox& widget, const ComboBox& combo) {
+  const QSignalBlocker quiet(&widget);
+  widget.setCurrentIndex(combo.ListIndex());
+  if (widget.isEditable() && widget.currentText() != ToQt(combo.Text())) widget.setEditText(ToQt(combo.Text()));
+}
+
+}  // namespace
+
+Binding* MakeComboBox(ComboBox& combo, QWidget* parent) {
+  auto* widget = new QComboBox(parent);
+  widget->setEditable(combo.Style() == ComboStyle::AnyText);
+  widget->setInsertPolicy(QComboBox::NoInsert);
+  if (widget->isEditable()) widget->setCompleter(nullptr);
+  widget->setFocusPolicy(Qt::StrongFocus);
+  widget->setMinimumWidth(WidthOf(*widget, combo.Characters()) + kInputPadding);
+  IgnoreStrayWheel(*widget);
+  auto* binding = new Binding(combo, *widget, [&combo, widget](Aspect aspect) {
+    if (aspect == Aspect::Items) FillCombo(*widget, combo);
+    ShowComboText(*widget, combo);
+  });
+  QObject::connect(widget, &QComboBox::activated, binding, [&combo](int index) { combo.UserPick(index); });
+  if (QLineEdit* edit = widget->lineEdit()) {
+    QObject::connect(edit, &QLineEdit::textEdited, binding,
+                     [&combo](const QString& text) { combo.UserType(FromQt(text)); });
+  }
+  return binding;
+}
+
+}  // namespace norvane::ui

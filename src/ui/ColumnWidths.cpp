@@ -8,8 +8,6 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kRowsMeasured = 200;
-/// Texts are cut to no less than this share of their column's width before the grid scrolls.
-constexpr double kTightest = 0.6;
 
 class Sharing {
  public:
@@ -21,9 +19,9 @@ class Sharing {
   }
 
   void CutShort() {
-    for (std::size_t i = columns_.size(); i-- > 0 && room_ < 0;) {
-      const int shortest = std::max(columns_[i].least, static_cast<int>(widths_[i] * kTightest));
-      Give(i, -std::clamp(widths_[i] - shortest, 0, -room_));
+    for (int most = *std::max_element(widths_.begin(), widths_.end()); room_ < 0 && most > 0; --most) {
+      for (std::size_t i = 0; i < columns_.size(); ++i)
+        Give(i, -std::max(0, widths_[i] - std::max(most, columns_[i].least)));
     }
   }
 
@@ -56,16 +54,17 @@ class Sharing {
 
 ColumnContent LookAt(const Grid& grid, int col, const CellTexts& texts, const QFontMetrics& metrics) {
   const QString sample = texts.Sample(grid.ColDataType(col));
-  ColumnContent content{.width = metrics.horizontalAdvance(sample)};
+  ColumnContent content{.heading = metrics.horizontalAdvance(ToQt(grid.DisplayText(0, col)))};
+  content.width = std::max(content.heading, metrics.horizontalAdvance(sample));
   int filled = 0;
   int figures = 0;
   int exacts = 0;
   int others = 0;
   const int rows = std::min(grid.Rows(), kRowsMeasured);
-  for (int row = 0; row < rows; ++row) {
+  for (int row = 1; row < rows; ++row) {
     const QString text = ToQt(grid.DisplayText(row, col));
     content.width = std::max(content.width, metrics.horizontalAdvance(text));
-    if (row == 0 || text.isEmpty()) continue;
+    if (text.isEmpty()) continue;
     ++filled;
     const bool isFigure = texts.IsFigure(text);
     const bool isExact = texts.IsExact(text);
@@ -79,6 +78,7 @@ ColumnContent LookAt(const Grid& grid, int col, const CellTexts& texts, const QF
 }
 
 std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, int rest) {
+  if (columns.empty()) return {};
   Sharing sharing(columns, room);
   sharing.CutShort();
   sharing.Raise([](const ColumnNeeds& column) { return column.whole; });

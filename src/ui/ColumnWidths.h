@@ -11,8 +11,10 @@ namespace norvane::ui {
 /// Columns grow by up to this factor where there is room: their widths were chosen for a smaller font.
 inline constexpr double kColumnGrowth = 1.3;
 
+/// Widths in pixels.
 struct ColumnContent {
-  int width = 0;  ///< of its widest text, in pixels
+  int heading = 0;
+  int width = 0;  ///< of its widest text, heading included
   bool isFigures = false;
   bool isExact = false;  ///< amounts or dates
 };
@@ -28,8 +30,8 @@ struct ColumnNeeds {
 };
 
 /// Divides the room among the columns. First each gets the width it was given or what its texts need, whichever is
-/// less, but never less than its least. Where that is too much, texts are cut short before the user has to scroll, the
-/// last ones first; as far as there is room, all texts get what they need, then each column the width it was given,
+/// less, but never less than its least. Where that is too much, the widest columns are cut to one common width before
+/// the grid scrolls; as far as there is room, all texts get what they need, then each column the width it was given,
 /// then it grows with the font. Column `rest` takes what is left, unless it is -1.
 std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, int rest);
 

@@ -68,7 +68,7 @@ int FlowLayout::WidthOf(const Line& line) const {
   return std::max(0, width - spacing());
 }
 
-int FlowLayout::heightForWidth(int width) const {
+int FlowLayout::HeightFor(int width) const {
   const QMargins margins = contentsMargins();
   const auto lines = LinesFor(width - margins.left() - margins.right());
   int height = margins.top() + margins.bottom() + spacing() * static_cast<int>(lines.size() - 1);

@@ -21,8 +21,8 @@ class FlowLayout : public QLayout {
   QLayoutItem* itemAt(int index) const override { return items_.value(index); }
   QLayoutItem* takeAt(int index) override;
   Qt::Orientations expandingDirections() const override { return {}; }
-  bool hasHeightForWidth() const override { return true; }
-  int heightForWidth(int width) const override;
+  /// The height of the lines that the width makes, which is its owner's to provide.
+  int HeightFor(int width) const;
   QSize sizeHint() const override;
   QSize minimumSize() const override;
   void setGeometry(const QRect& rect) override;

@@ -25,7 +25,9 @@ constexpr int kRowPadding = 9;
 constexpr int kRowsAskedFor = 10;
 constexpr int kFewestRows = 4;
 constexpr int kNarrowest = 20;
-constexpr int kWidestText = 260;  // no column asks for more, in pixels
+constexpr int kNarrowestText = 60;  // texts are cut to no less
+constexpr int kWidestText = 260;    // no column asks for more
+constexpr int kHeadingPadding = 10;
 
 }  // namespace
 
@@ -196,10 +198,11 @@ void GridView::MeasureColumns() {
     const ColumnContent content = LookAt(*grid_, col, texts_, fontMetrics());
     const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
-    const int text = content.width + 2 * GridCellPainter::kPadding + 1;
+    const int heading = content.heading + kHeadingPadding;
+    const int text = std::max(content.width + 2 * GridCellPainter::kPadding + 1, heading) + helper;
     needs_[at] = {.given = ToPixels(grid_->ColWidth(col)),
-                  .whole = std::min(text + helper, kWidestText),
-                  .least = content.isExact ? text + helper : kNarrowest};
+                  .whole = std::min(text, kWidestText),
+                  .least = content.isExact ? text : std::min(text, std::max(heading, kNarrowestText))};
     // What the user enters stays on the left, but for amounts: a check number may be a word as well.
     figures[at] = content.isFigures && (content.isExact || grid_->Kind() == GridKind::List);
   }

@@ -12,7 +12,7 @@
 
 #include "forms/Controls.h"
 #include "ui/Convert.h"
-#include "ui/FlowLayout.h"
+#include "ui/Strip.h"
 
 namespace norvane::ui {
 namespace {
@@ -167,19 +167,19 @@ void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page, i
 }
 
 LayoutBuilder::Piece LayoutBuilder::BuildStrip(const Node& node, QWidget& page) {
-  auto* frame = new QFrame(&page);
-  auto* strip = new FlowLayout(frame);
-  strip->setContentsMargins(0, 0, 0, 0);
+  auto* strip = new Strip(&page);
+  FlowLayout& flow = strip->Flow();
+  flow.setContentsMargins(0, 0, 0, 0);
   for (const auto& child : node.children) {
     if (child.kind == Kind::Space) {
-      strip->AddStretch();
+      flow.AddStretch();
       continue;
     }
-    const Piece piece = child.kind == Kind::Line ? BuildLine(*frame, Qt::Vertical) : Build(child, *frame);
-    if (piece.widget) strip->AddWidget(piece.widget);
-    if (piece.layout) strip->AddLayout(piece.layout);
+    const Piece piece = child.kind == Kind::Line ? BuildLine(*strip, Qt::Vertical) : Build(child, *strip);
+    if (piece.widget) flow.AddWidget(piece.widget);
+    if (piece.layout) flow.AddLayout(piece.layout);
   }
-  return {frame, nullptr};
+  return {strip, nullptr};
 }
 
 LayoutBuilder::Piece LayoutBuilder::BuildFields(const Node& node, QWidget& page) {

@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 
 #include "ui/Convert.h"
-#include "ui/FlowLayout.h"
 #include "ui/PagePdf.h"
 #include "ui/PagePrinter.h"
+#include "ui/Strip.h"
 #include "ui/Theme.h"
 #include "ui/WidgetFactory.h"
 
@@ -34,7 +34,7 @@ ZoomChoice ChoiceOfText(int index) {
 }  // namespace
 
 PreviewWidget::PreviewWidget(Preview& preview, QWidget* parent)
-    : QFrame(parent), preview_(&preview), bar_(new QFrame(this)), canvas_(new PageCanvas(this)) {
+    : QFrame(parent), preview_(&preview), bar_(new Strip(this)), canvas_(new PageCanvas(this)) {
   setProperty("preview", true);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(1, 1, 1, 1);
@@ -83,8 +83,8 @@ QPushButton* PreviewWidget::AddTool(const char* icon, const QString& name,
 
 void PreviewWidget::BuildBar() {
   bar_->setProperty("strip", "top");
-  auto* strip = new FlowLayout(bar_);
-  strip->setContentsMargins(4, 2, 4, 2);
+  FlowLayout& strip = bar_->Flow();
+  strip.setContentsMargins(4, 2, 4, 2);
   const auto turn = [](int step) { return [step](Preview& p) { p.SetCurrentPage(p.CurrentPage() + step); }; };
   first_ = AddTool("first", "First Page", [](Preview& p) { p.SetCurrentPage(1); });
   previous_ = AddTool("previous", "Previous Page", turn(-1));
@@ -95,13 +95,13 @@ void PreviewWidget::BuildBar() {
   page_->setAccessibleName("Page");
   page_->setKeyboardTracking(false);
   connect(page_, &QSpinBox::valueChanged, this, [this](int page) { Act([&](Preview& p) { p.SetCurrentPage(page); }); });
-  strip->addWidget(page_);
+  strip.addWidget(page_);
   count_ = new QLabel(bar_);
-  strip->addWidget(count_);
+  strip.addWidget(count_);
   next_ = AddTool("next", "Next Page", turn(1));
   last_ = AddTool("last", "Last Page", [](Preview& p) { p.SetCurrentPage(p.PageCount()); });
   BuildZoomButton();
-  strip->AddStretch();
+  strip.AddStretch();
   print_ = AddTool("print", "Print",
                    [this](Preview& p) { PrintPages(p.Pages(), ToQt(p.Title()), p.CurrentPage(), window()); });
   print_->setShortcut(QKeySequence::Print);

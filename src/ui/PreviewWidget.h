@@ -13,6 +13,7 @@ class QSpinBox;
 
 namespace norvane::ui {
 
+class Strip;
 class WidgetFactory;
 
 /// Shows a report's document below the bar that turns, zooms, prints and saves its pages.
@@ -34,7 +35,7 @@ class PreviewWidget : public QFrame {
 
   Preview* preview_;
   const QtFontMetrics metrics_;
-  QFrame* bar_;
+  Strip* bar_;
   PageCanvas* canvas_;
   Binding* binding_;
   QSpinBox* page_ = nullptr;

@@ -17,8 +17,7 @@
 #include "tour/Paper.h"
 #include "tour/Stops.h"
 #include "tour/TourDesktop.h"
-#include "tour/Visitor.h"
-#include "ui/FormWindow.h"
+#include "tour/Visit.h"
 
 namespace {
 
@@ -40,74 +39,41 @@ constexpr double kMorning = 10.4 / 24;
 
 const std::vector<std::pair<ui::Theme, const char*>> kThemes{{ui::Theme::Light, "light"}, {ui::Theme::Dark, "dark"}};
 
-/// The offscreen platform says what it can't do each time that it is asked to; none of it matters for a picture.
+/// The offscreen platform warns each time it is asked for what it can't do; none of it matters for a picture.
 void LeaveOutThePlatformsRemarks(QtMsgType, const QMessageLogContext&, const QString& text) {
   if (!text.startsWith("This plugin does not support")) std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
 constexpr const char* kPaper = "paper";
 
-/// Where a visit leaves its files.
+/// Where the pictures go.
 struct Target {
   fs::path screens;
   fs::path paper;
 };
 
-/// One stop under one theme: a program of its own, so that no stop depends on another.
-class Visit {
- public:
-  Visit(const Stop& stop, ui::Theme theme, const fs::path& data, const Target& target)
-      : stop_(stop),
-        target_(target.screens),
-        paper_(target.paper),
-        desktop_(theme, Date(sample::ToDay(kDay) + kMorning)),
-        program_(desktop_, {}, data) {
-    desktop_.modalForm = [this](Form& form) { Photograph(form); };
-    Compose(program_, desktop_);
-  }
-  ~Visit() {
-    for (Form* form : program_.screens.Loaded()) form->Hide();
-  }
+void Save(QWidget& window, const fs::path& file) {
+  if (!window.grab().save(QString::fromStdString(file.string())))
+    throw std::runtime_error("can't write " + file.string());
+}
 
-  /// What went wrong, empty if nothing did.
-  std::string Make() {
-    program_.Start("Customer");
-    for (const Step& step : stop_.steps) DoStep(program_, step);
-    if (Form* form = program_.screens.Find(stop_.screen); form != nullptr && !taken_) Photograph(*form);
-    if (!desktop_.boxes.empty()) return "a box came up: " + desktop_.boxes.front();
-    return taken_ ? "" : "the screen did not come up";
-  }
-
- private:
-  void Photograph(Form& form) {
-    if (form.Name() != stop_.screen || taken_) return;
-    ui::FormWindow* window = desktop_.WindowOf(form);
-    if (window == nullptr) return;
-    Save(*window, "");
+/// Draws the stop's screen; returns the problem found, empty if there is none.
+std::string Photograph(const Stop& stop, ui::Theme theme, const fs::path& data, const Target& target) {
+  Visit visit(stop, theme, Date(sample::ToDay(kDay) + kMorning), data);
+  return visit.Make([&](Form& form, ui::FormWindow& window) {
+    const std::string picture(stop.picture);
+    visit.Settle();
+    Save(window, target.screens / (picture + ".png"));
     if (form.Style().resizable) {
-      window->resize(window->width() * 3 / 2, window->height() * 7 / 5);
-      Save(*window, "-enlarged");
+      window.resize(window.width() * 3 / 2, window.height() * 7 / 5);
+      visit.Settle();
+      Save(window, target.screens / (picture + "-enlarged.png"));
     }
-    WritePaper(form, paper_, std::string(stop_.picture));
-    taken_ = true;
-  }
+    WritePaper(form, target.paper, picture);
+  });
+}
 
-  void Save(QWidget& window, const char* suffix) {
-    desktop_.DoEvents();
-    const fs::path file = target_ / (std::string(stop_.picture) + suffix + ".png");
-    if (!window.grab().save(QString::fromStdString(file.string())))
-      throw std::runtime_error("can't write " + file.string());
-  }
-
-  const Stop& stop_;
-  fs::path target_;
-  fs::path paper_;
-  TourDesktop desktop_;
-  Program program_;
-  bool taken_ = false;
-};
-
-/// A page that shows all pictures of the folder, for a look at everything at once.
+/// Writes a page that shows all pictures of the folder.
 void WriteIndex(const fs::path& folder, const std::vector<const Stop*>& stops) {
   std::ofstream html(folder / "index.html");
   html << "<!DOCTYPE html><meta charset='utf-8'><title>Norvanes: picture tour</title>\n"
@@ -122,14 +88,6 @@ void WriteIndex(const fs::path& folder, const std::vector<const Stop*>& stops) {
       if (fs::exists(folder / file)) html << "<img src='" << file << "'>\n";
     }
   }
-}
-
-/// The stops asked for that this program has, in their order.
-std::vector<const Stop*> Choose(const Program& program, const std::set<std::string_view>& wanted) {
-  std::vector<const Stop*> chosen;
-  for (const Stop& stop : Stops())
-    if ((wanted.empty() || wanted.contains(stop.picture)) && CanVisit(program, stop)) chosen.push_back(&stop);
-  return chosen;
 }
 
 /// Screens that no stop shows.
@@ -148,17 +106,15 @@ int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::s
 
   TourDesktop desktop(ui::Theme::Light, Date(sample::ToDay(kDay)));
   Program program(desktop, {}, dataFolder);
-  Compose(program, desktop);
-  const std::vector<const Stop*> stops = Choose(program, wanted);
+  Compose(program);
+  const std::vector<const Stop*> stops = StopsOf(program, wanted);
 
   int problems = 0;
   fs::create_directories(folder / kPaper);
   for (const auto& [theme, name] : kThemes) {
     fs::create_directories(folder / name);
     for (const Stop* stop : stops) {
-      const std::string problem = Visit(*stop, theme, dataFolder, {folder / name, folder / kPaper}).Make();
-      // The windows of the visit go now: without an event loop nothing else would ever take them away.
-      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      const std::string problem = Photograph(*stop, theme, dataFolder, {folder / name, folder / kPaper});
       if (problem.empty()) continue;
       ++problems;
       std::fprintf(stderr, "%s (%s): %s\n", std::string(stop->picture).c_str(), name, problem.c_str());

@@ -5,7 +5,7 @@
 
 namespace norvane::tour {
 
-/// One thing that a user does, told by the names of screen and control.
+/// One action of a user on a control, by the names of screen and control.
 struct Step {
   enum class Do {
     Press,        ///< a button or an option
@@ -23,7 +23,7 @@ struct Step {
   int col = 1;
 };
 
-/// A picture to take: of the screen, once the steps have been done on a program that has just been started.
+/// A picture to take of a screen, after the steps on a program that has just been started.
 struct Stop {
   std::string_view picture;  ///< file name without ending
   std::string_view screen;

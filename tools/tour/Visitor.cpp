@@ -1,6 +1,5 @@
 #include "tour/Visitor.h"
 
-#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -64,11 +63,6 @@ void DoStep(Program& program, const Step& step) {
     default:
       return UseGrid(Get<Grid>(*form, step), step);
   }
-}
-
-bool CanVisit(const Program& program, const Stop& stop) {
-  const auto known = [&](const Step& step) { return program.screens.Has(step.screen); };
-  return program.screens.Has(stop.screen) && std::ranges::all_of(stop.steps, known);
 }
 
 }  // namespace norvane::tour

@@ -5,10 +5,8 @@
 
 namespace norvane::tour {
 
-/// Does the steps of a stop on a running program. Throws std::runtime_error for a screen or a control that isn't there.
+/// Does the steps of a stop on a running program. Throws std::runtime_error for a screen or a control that doesn't
+/// exist.
 void DoStep(Program& program, const Step& step);
-
-/// Whether every screen that the stop touches is in the program's table.
-bool CanVisit(const Program& program, const Stop& stop);
 
 }  // namespace norvane::tour

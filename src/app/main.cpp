@@ -16,8 +16,9 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(":/norvanes/pictures/norvanes.svg"));
 
   const norvane::RegionalSettings settings = norvane::SystemRegionalSettings();
-  norvane::ui::QtDesktop desktop(settings);
-  norvane::Program program(desktop, settings, norvane::ApplicationFolder(startedAs));
+  const std::filesystem::path folder = norvane::ApplicationFolder(startedAs);
+  norvane::ui::QtDesktop desktop(settings, norvane::ui::Theme::System, folder);
+  norvane::Program program(desktop, settings, folder);
   application.ReportTo(desktop);
   norvane::Compose(program);
   program.Start(norvane::screen::kCustomer);

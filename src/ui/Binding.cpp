@@ -1,12 +1,31 @@
 #include "ui/Binding.h"
 
+#include <QRegularExpression>
+
+#include "forms/Controls.h"
 #include "ui/Convert.h"
+#include "ui/Shortcuts.h"
 
 namespace norvane::ui {
+namespace {
+
+/// "Since Date" of "txtSinceDate": what assistive tools read out for a field without a label.
+QString ReadableName(const Control& control) {
+  static const QRegularExpression prefix("^(txt|cmb|Cmb|DT|dt|Opt)(?=[A-Z])");
+  static const QRegularExpression wordStart("(?<=[a-z])(?=[A-Z0-9])");
+  return ToQt(control.Name()).remove(prefix).replace(wordStart, " ");
+}
+
+bool NamesItself(const Control& control) {
+  return !control.TakesFocus() || dynamic_cast<const Button*>(&control) || dynamic_cast<const OptionButton*>(&control);
+}
+
+}  // namespace
 
 Binding::Binding(Control& control, QWidget& widget, Follow follow)
     : QObject(&widget), control_(control), widget_(widget), follow_(std::move(follow)) {
   widget.setObjectName(ToQt(control.Name()));
+  if (!NamesItself(control) && widget.accessibleName().isEmpty()) widget.setAccessibleName(ReadableName(control));
   control.observer = [this](Aspect aspect) { Changed(aspect); };
   Refresh();
 }
@@ -17,6 +36,11 @@ void Binding::Refresh() {
   for (const auto aspect : {Aspect::Caption, Aspect::Items, Aspect::Text, Aspect::State, Aspect::Colour}) {
     follow_(aspect);
   }
+}
+
+void Binding::SetKey(const QKeySequence& key) {
+  key_ = key;
+  FollowShared();
 }
 
 void Binding::SetCompanion(QWidget* companion) {
@@ -51,7 +75,7 @@ void Binding::Changed(Aspect aspect) {
 
 void Binding::FollowShared() {
   widget_.setEnabled(control_.Enabled());
-  widget_.setToolTip(ToQt(control_.ToolTip()));
+  widget_.setToolTip(WithKey(ToQt(control_.ToolTip()), key_));
   if (widget_.isHidden() == control_.Visible()) widget_.setVisible(control_.Visible());
   if (companion_ && companion_->isHidden() == control_.Visible()) companion_->setVisible(control_.Visible());
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include <QKeySequence>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -26,6 +27,9 @@ class Binding : public QObject {
   /// Draws everything again, for a widget that gets its content after the binding.
   void Refresh();
 
+  /// Sets the key that presses the widget, which its tool tip names.
+  void SetKey(const QKeySequence& key);
+
   /// Sets the label that is shown and hidden with the widget.
   void SetCompanion(QWidget* companion);
 
@@ -42,6 +46,7 @@ class Binding : public QObject {
   Control& control_;
   QWidget& widget_;
   Follow follow_;
+  QKeySequence key_;
   QPointer<QWidget> companion_;
 };
 

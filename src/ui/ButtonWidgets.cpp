@@ -13,7 +13,6 @@
 namespace norvane::ui {
 namespace {
 
-constexpr int kIconSize = 22;
 constexpr int kButtonWidth = 84;  // buttons of short captions are alike
 
 /// Makes an accelerator press its button at once. The toolkit would show the button going down first, and keys typed in

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include "ui/Apostrophe.h"
 #include "ui/Convert.h"
 #include "ui/StandardWidgets.h"
 
@@ -17,7 +18,8 @@ void FillCombo(QComboBox& widget, const ComboBox& combo) {
 void ShowComboText(QComboBox& widget, const ComboBox& combo) {
   const QSignalBlocker quiet(&widget);
   widget.setCurrentIndex(combo.ListIndex());
-  if (widget.isEditable() && widget.currentText() != ToQt(combo.Text())) widget.setEditText(ToQt(combo.Text()));
+  if (widget.isEditable() && widget.currentText() != ToQt(combo.Text()))
+    ShowStored(*widget.lineEdit(), ToQt(combo.Text()));
 }
 
 }  // namespace
@@ -36,6 +38,8 @@ Binding* MakeComboBox(ComboBox& combo, QWidget* parent) {
   });
   QObject::connect(widget, &QComboBox::activated, binding, [&combo](int index) { combo.UserPick(index); });
   if (QLineEdit* edit = widget->lineEdit()) {
+    TypeApostrophes(*edit);
+    edit->setAccessibleName(widget->accessibleName());
     QObject::connect(edit, &QLineEdit::textEdited, binding,
                      [&combo](const QString& text) { combo.UserType(FromQt(text)); });
   }

@@ -1,14 +1,18 @@
+#include <functional>
 #include <map>
 
 #include <QCalendarWidget>
-#include <QDateEdit>
+#include <QFrame>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPointer>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "forms/Form.h"
 #include "ui/Convert.h"
@@ -18,6 +22,8 @@
 
 namespace norvane::ui {
 namespace {
+
+constexpr int kCalendarIcon = 16;
 
 /// Gives a calendar the theme's arrows, plain weekends, the machine's first day of the week and room for six weeks.
 void StyleCalendar(QCalendarWidget& calendar) {
@@ -29,22 +35,68 @@ void StyleCalendar(QCalendarWidget& calendar) {
   calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendar.setGridVisible(false);
   for (const auto day : {Qt::Saturday, Qt::Sunday}) calendar.setWeekdayTextFormat(day, QTextCharFormat());
-  for (auto [name, icon] :
-       {std::pair("qt_calendar_prevmonth", "previous"), std::pair("qt_calendar_nextmonth", "next")}) {
-    if (auto* arrow = calendar.findChild<QToolButton*>(name)) arrow->setIcon(NamedIcon(icon));
-  }
+  const auto style = [&](const char* name, const char* icon, const char* spoken) {
+    auto* arrow = calendar.findChild<QToolButton*>(name);
+    if (!arrow) return;
+    arrow->setIcon(NamedIcon(icon));
+    arrow->setAccessibleName(spoken);
+  };
+  style("qt_calendar_prevmonth", "previous", "Previous Month");
+  style("qt_calendar_nextmonth", "next", "Next Month");
+  if (auto* days = calendar.findChild<QTableView*>()) days->setAccessibleName("Days");
   calendar.setMinimumHeight((kHeadingRows + kWeeks) * (calendar.fontMetrics().height() + kDayPadding));
 }
 
-/// Tab leaves a field at once instead of going from part to part of a date.
-void LeaveByTab(QWidget& widget, Form& form) {
-  new EventFilter(widget, [&form](QEvent& event) {
-    if (event.type() != QEvent::KeyPress) return false;
-    const int key = static_cast<QKeyEvent&>(event).key();
-    if (key != Qt::Key_Tab && key != Qt::Key_Backtab) return false;
-    form.UserTab(key == Qt::Key_Backtab);
-    return true;
-  });
+/// Opens the calendar below a button; a day picked goes to `picked` as long as the binding exists.
+void OpenCalendar(QWidget& button, QDate day, Binding& binding, const std::function<void(QDate)>& picked) {
+  auto* popup = new QFrame(&button, Qt::Popup);
+  popup->setAttribute(Qt::WA_DeleteOnClose);
+  popup->setFrameShape(QFrame::StyledPanel);
+  auto* calendar = new QCalendarWidget(popup);
+  StyleCalendar(*calendar);
+  calendar->setSelectedDate(day);
+  auto* box = new QVBoxLayout(popup);
+  box->setContentsMargins(1, 1, 1, 1);
+  box->addWidget(calendar);
+  const auto take = [popup, picked, &button, bound = QPointer<Binding>(&binding)](QDate chosen) {
+    popup->close();
+    if (!bound) return;
+    button.window()->activateWindow();
+    picked(chosen);
+  };
+  QObject::connect(calendar, &QCalendarWidget::clicked, popup, take);
+  QObject::connect(calendar, &QCalendarWidget::activated, popup, take);
+  popup->adjustSize();
+  const QRect room = button.screen()->availableGeometry();
+  QRect place(button.mapToGlobal(QPoint(0, button.height())), popup->size());
+  if (place.right() > room.right()) place.moveRight(room.right());
+  if (place.bottom() > room.bottom()) place.moveBottom(button.mapToGlobal(QPoint()).y());
+  popup->move(place.topLeft());
+  popup->show();
+  calendar->setFocus();
+}
+
+/// Up and Down change the day, F4 and Alt+Down open the calendar, and Tab leaves.
+bool UseKey(const QKeyEvent& event, DatePicker& picker, QToolButton& widget) {
+  switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      picker.Parent().UserTab(event.key() == Qt::Key_Backtab);
+      return true;
+    case Qt::Key_F4:
+      widget.click();
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (event.modifiers() & Qt::AltModifier) {
+        widget.click();
+      } else {
+        picker.UserPick(FromQt(ToQt(picker.Value()).addDays(event.key() == Qt::Key_Up ? 1 : -1)));
+      }
+      return true;
+    default:
+      return false;
+  }
 }
 
 int KeyCodeOf(const QKeyEvent& event) {
@@ -60,21 +112,38 @@ int KeyCodeOf(const QKeyEvent& event) {
 
 }  // namespace
 
-Binding* MakeDatePicker(DatePicker& picker, QWidget* parent, const QString& format) {
-  auto* widget = new QDateEdit(parent);
-  widget->setCalendarPopup(true);
-  StyleCalendar(*widget->calendarWidget());
-  widget->setDisplayFormat(format);
+Binding* MakeDatePicker(DatePicker& picker, QWidget* parent) {
+  auto* widget = new QToolButton(parent);
+  widget->setIcon(NamedIcon("calendar"));
+  widget->setIconSize({kCalendarIcon, kCalendarIcon});
   widget->setFocusPolicy(Qt::StrongFocus);
-  widget->setMinimumWidth(WidthOf(*widget, 10) + kInputPadding);
-  IgnoreStrayWheel(*widget);
-  LeaveByTab(*widget, picker.Parent());
+  widget->setCursor(Qt::ArrowCursor);
+  widget->setAccessibleName("Calendar");
   auto* binding = new Binding(picker, *widget, [&picker, widget](Aspect) {
-    const QSignalBlocker quiet(widget);
-    widget->setDate(ToQt(picker.Value()));
+    widget->setAccessibleDescription(ToQt(picker.Value()).toString(Qt::ISODate));
   });
-  QObject::connect(widget, &QDateEdit::dateChanged, binding, [&picker](QDate date) { picker.UserPick(FromQt(date)); });
+  QObject::connect(widget, &QToolButton::clicked, binding, [&picker, widget, binding] {
+    picker.SetFocus();
+    OpenCalendar(*widget, ToQt(picker.Value()), *binding, [&picker](QDate day) { picker.UserPick(FromQt(day)); });
+  });
+  new EventFilter(*widget, [&picker, widget, bound = QPointer<Binding>(binding)](QEvent& event) {
+    return event.type() == QEvent::KeyPress && bound && UseKey(static_cast<QKeyEvent&>(event), picker, *widget);
+  });
   return binding;
+}
+
+void PutIntoField(QWidget& field, QWidget& button) {
+  const int width = button.sizeHint().width();
+  field.setFixedWidth(field.width() + width);
+  if (auto* line = qobject_cast<QLineEdit*>(&field)) line->setTextMargins(0, 0, width, 0);
+  button.setParent(&field);
+  const auto place = [&field, &button, width] {
+    button.setGeometry(field.width() - width - 1, 1, width, field.height() - 2);
+  };
+  new EventFilter(field, [place](QEvent& event) {
+    if (event.type() == QEvent::Resize || event.type() == QEvent::Show) place();
+    return false;
+  });
 }
 
 Binding* MakeMonthView(MonthView& month, QWidget* parent) {

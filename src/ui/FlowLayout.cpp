@@ -107,7 +107,9 @@ void FlowLayout::Place(const Line& line, const QRect& rect) const {
   int x = rect.left();
   for (auto* item : line) {
     const QSize size = isSpacer(item) ? QSize(slack, 0) : NeedOf(*item);
-    const int height = std::min(rect.height(), size.height());
+    // A label's text is centred like that of the field beside it.
+    const bool isLabel = qobject_cast<QLabel*>(item->widget()) != nullptr;
+    const int height = isLabel ? rect.height() : std::min(rect.height(), size.height());
     item->setGeometry({x, rect.top() + (rect.height() - height) / 2, size.width(), height});
     x += size.width() + spacing();
   }

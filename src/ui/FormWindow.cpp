@@ -1,6 +1,10 @@
 #include "ui/FormWindow.h"
 
+#include <algorithm>
+
 #include <QAction>
+#include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -9,13 +13,18 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QWindow>
 
 #include "forms/FrameSize.h"
 #include "ui/Convert.h"
 #include "ui/LayoutBuilder.h"
+#include "ui/Shortcuts.h"
 #include "ui/Theme.h"
+#include "ui/WindowMemory.h"
 
 namespace norvane::ui {
 namespace {
@@ -25,14 +34,23 @@ constexpr int kNoticeCharacters = 40;  // enough for its title beside the frame'
 constexpr int kCascade = 28;
 constexpr QSize kRoomForFrame(12, 36);
 
+bool IsPlaced(const Form& form) {
+  return form.Left() != 0 || form.Top() != 0;
+}
+
+QSize RoomForWindows() {
+  return QGuiApplication::primaryScreen()->availableSize() - kRoomForFrame;
+}
+
 }  // namespace
 
-FormWindow::FormWindow(Form& form, const WidgetFactory& factory, FocusBridge& focus) : form_(&form) {
+FormWindow::FormWindow(Form& form, const WindowServices& services) : form_(&form), services_(services) {
   setObjectName(ToQt(form.Name()));
   setWindowTitle(ToQt(form.Caption()));
   ChooseFlags();
   BuildMenu();
-  BuildPage(factory, focus);
+  BuildPage();
+  AddShortcuts();
   form.observer = [this](Aspect aspect) { FormChanged(aspect); };
 }
 
@@ -47,10 +65,27 @@ void FormWindow::ChooseFlags() {
 
 void FormWindow::BuildMenu() {
   for (MenuEntry* entry : form_->MenuBar()) menuBar()->addMenu(MakeMenu(*entry));
+  if (!form_->MenuBar().empty()) AddViewMenu();
+}
+
+/// The window's own menu, before the last one of a form with several, which is Help.
+void FormWindow::AddViewMenu() {
+  auto* menu = new QMenu("&View", this);
+  auto* group = new QActionGroup(menu);
+  for (const auto& [theme, text] : {std::pair(Theme::System, "&System Colors"),
+                                    std::pair(Theme::Light, "&Light Colors"), std::pair(Theme::Dark, "&Dark Colors")}) {
+    QAction* action = menu->addAction(text, this, [this, chosen = theme] { services_.chooseTheme(chosen); });
+    action->setActionGroup(group);
+    action->setCheckable(true);
+    action->setChecked(theme == services_.memory.ChosenTheme());
+  }
+  const auto menus = menuBar()->actions();
+  menuBar()->insertMenu(menus.size() > 1 ? menus.back() : nullptr, menu);
 }
 
 QMenu* FormWindow::MakeMenu(MenuEntry& entry) {
   auto* menu = new QMenu(ToQt(entry.Caption()), this);
+  menu->setObjectName(ToQt(entry.Name()));
   for (MenuEntry* child : entry.Entries()) AddEntry(*menu, *child);
   entry.observer = [&entry, action = menu->menuAction()](Aspect) {
     action->setEnabled(entry.Enabled());
@@ -76,11 +111,11 @@ void FormWindow::AddEntry(QMenu& menu, MenuEntry& entry) {
   });
 }
 
-void FormWindow::BuildPage(const WidgetFactory& factory, FocusBridge& focus) {
+void FormWindow::BuildPage() {
   auto* page = new QWidget(this);
-  LayoutBuilder builder(factory, [&](Control& control, Binding& binding) {
+  LayoutBuilder builder(services_.factory, [&](Control& control, Binding& binding) {
     widgets_.emplace_back(&control, &binding.Widget());
-    binding.focused = [&focus](Binding& focused) { focus.Give(focused); };
+    binding.focused = [this](Binding& focused) { services_.focus.Give(focused); };
   });
   builder.Fill(*page, form_->Layout());
   if (form_->Style().notice) {
@@ -88,9 +123,45 @@ void FormWindow::BuildPage(const WidgetFactory& factory, FocusBridge& focus) {
     page->setMinimumWidth(fontMetrics().averageCharWidth() * kNoticeCharacters);
     setAttribute(Qt::WA_ShowWithoutActivating);
   }
-  setCentralWidget(page);
+  ShowPage(*page);
   if (builder.FoundStatusBar()) setStatusBar(builder.FoundStatusBar());
   SetTabOrder();
+}
+
+/// A page that is larger than the screen scrolls.
+void FormWindow::ShowPage(QWidget& page) {
+  const QSize room = RoomForWindows();
+  const QSize need = page.minimumSizeHint();
+  if (need.width() <= room.width() && need.height() + MenuHeight() <= room.height()) return setCentralWidget(&page);
+  auto* area = new QScrollArea(this);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  page.setProperty("page", true);
+  area->setWidget(&page);
+  setCentralWidget(area);
+}
+
+template <class Action>
+void FormWindow::AddShortcut(const QKeySequence& key, Action action) {
+  connect(new QShortcut(key, this), &QShortcut::activated, this, [this, action] {
+    if (form_) action();
+  });
+}
+
+void FormWindow::AddShortcuts() {
+  for (const Shortcut& shortcut : ShortcutsOf(*form_)) {
+    Button& button = *shortcut.button;
+    AddShortcut(shortcut.key, [&button] { button.Press(); });
+    if (Binding* binding = Binding::Of(WidgetOf(button))) binding->SetKey(shortcut.key);
+  }
+  AddShortcut(QKeySequence::HelpContents, [this] { services_.help(*form_); });
+  AddShortcut(QKeySequence("Ctrl+PgUp"), [this] { TurnTab(-1); });
+  AddShortcut(QKeySequence("Ctrl+PgDown"), [this] { TurnTab(1); });
+}
+
+void FormWindow::TurnTab(int by) {
+  auto* tabs = findChild<QTabWidget*>();
+  if (tabs) tabs->setCurrentIndex((tabs->currentIndex() + by + tabs->count()) % tabs->count());
 }
 
 void FormWindow::SetTabOrder() {
@@ -123,7 +194,15 @@ void FormWindow::Present(QWidget* owner) {
 }
 
 void FormWindow::Withdraw() {
+  if (isVisible() && keepsPlace_ && !isMinimized() && !isMaximized()) {
+    services_.memory.KeepPlace(form_->Name(), QRect(pos(), size()));
+  }
   hide();
+}
+
+/// What stands above another window.
+bool FormWindow::IsSmall() const {
+  return form_->Style().goesWithOwner || form_->IsModal() || !form_->Style().resizable;
 }
 
 void FormWindow::Abandon() {
@@ -153,25 +232,53 @@ void FormWindow::TakeFirstPlace(QWidget* owner) {
     ReportSize();
   }
   FollowPlace();
-  if (form_->Left() != 0 || form_->Top() != 0) return;
+  keepsPlace_ = !IsPlaced(*form_) && !IsSmall();
+  if (IsPlaced(*form_) || TakeKeptPlace()) return;
   FitOnScreen();
-  move(PlaceBeside(owner && owner->isVisible() ? owner : nullptr));
+  QWidget* opener = owner && owner->isVisible() ? owner : QApplication::activeWindow();
+  move(IsSmall() ? MiddleOf(opener) : PlaceBeside(opener));
+}
+
+bool FormWindow::TakeKeptPlace() {
+  const auto kept = keepsPlace_ ? services_.memory.Place(form_->Name()) : std::nullopt;
+  if (!kept) return false;
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  if (!room.contains(kept->topLeft())) return false;
+  resize(kept->size().boundedTo(RoomForWindows()).expandedTo(minimumSizeHint()));
+  ReportSize();
+  move(kept->topLeft());
+  return true;
 }
 
 /// A small screen, or one with large fonts, has no room for the size a form begins with.
 void FormWindow::FitOnScreen() {
-  const QSize room = QGuiApplication::primaryScreen()->availableSize() - kRoomForFrame;
-  resize(size().boundedTo(room).expandedTo(minimumSizeHint()));
+  resize(size().boundedTo(RoomForWindows()).expandedTo(minimumSizeHint()));
   ReportSize();
 }
 
-/// In the middle of its owner or of the screen; below the owner's corner where the middle is too near to an edge.
-QPoint FormWindow::PlaceBeside(const QWidget* owner) const {
+/// In the middle of its owner or of the screen.
+QPoint FormWindow::MiddleOf(const QWidget* owner) const {
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
   const QRect around = owner ? owner->frameGeometry() : room;
   const QPoint middle = around.center() - QPoint(width() / 2, height() / 2);
   if (room.contains(middle)) return middle;
   return owner ? owner->pos() + QPoint(kCascade, kCascade) : room.topLeft();
+}
+
+/// To the right of the window that opened it or to the left, so that both can be seen; where neither side has room, a
+/// step below its corner.
+QPoint FormWindow::PlaceBeside(const QWidget* opener) const {
+  if (!opener) return MiddleOf(nullptr);
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  const QRect around = opener->frameGeometry();
+  const int outer = width() + kRoomForFrame.width();
+  const int top = std::max(room.top(), std::min(around.top(), room.bottom() - height() - kRoomForFrame.height()));
+  if (around.right() + outer <= room.right()) return {around.right() + 1, top};
+  if (around.left() - outer >= room.left()) return {around.left() - outer, top};
+  const QPoint step = around.topLeft() + QPoint(kCascade, kCascade);
+  const QPoint last(room.right() - outer, room.bottom() - height() - kRoomForFrame.height());
+  return {std::clamp(step.x(), room.left(), std::max(room.left(), last.x())),
+          std::clamp(step.y(), room.top(), std::max(room.top(), last.y()))};
 }
 
 int FormWindow::MenuHeight() const {
@@ -187,7 +294,7 @@ void FormWindow::FollowPlace() {
   const QScopedValueRollback following(following_, true);
   if (form_->Width() > 0 && size() != SizeOfForm()) resize(SizeOfForm().expandedTo(minimumSizeHint()));
   const QPoint corner(ToPixels(form_->Left()), ToPixels(form_->Top()));
-  if (!corner.isNull() && pos() != corner) move(corner);
+  if (IsPlaced(*form_) && pos() != corner) move(corner);
 }
 
 void FormWindow::FormChanged(Aspect aspect) {
@@ -214,8 +321,11 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && PressButton(&ButtonStyle::isDefault)) return;
-  if (event->key() == Qt::Key_Escape && PressButton(&ButtonStyle::isCancel)) return;
+  if (enter && (PressButton(&ButtonStyle::isDefault) || PressGo())) return;
+  if (event->key() == Qt::Key_Escape) {
+    if (PressButton(&ButtonStyle::isCancel)) return;
+    if (form_ && IsSmall()) return form_->UserClose();
+  }
   QMainWindow::keyPressEvent(event);
 }
 
@@ -224,6 +334,20 @@ bool FormWindow::PressButton(bool ButtonStyle::*role) {
   for (Control* control : form_->Controls()) {
     auto* button = dynamic_cast<Button*>(control);
     if (!button || !(button->Style().*role) || !button->Enabled() || !button->Visible()) continue;
+    button->Press();
+    return true;
+  }
+  return false;
+}
+
+/// Enter in a date of a list's criteria asks for the list.
+bool FormWindow::PressGo() {
+  if (!form_) return false;
+  const Control* active = form_->ActiveControl();
+  if (!dynamic_cast<const MaskedBox*>(active) && !dynamic_cast<const DatePicker*>(active)) return false;
+  for (Control* control : form_->Controls()) {
+    auto* button = dynamic_cast<Button*>(control);
+    if (!button || button->Style().icon != "go") continue;
     button->Press();
     return true;
   }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <functional>
+
 #include <QMainWindow>
 
 #include "forms/Form.h"
 #include "ui/FocusBridge.h"
+#include "ui/Theme.h"
 #include "ui/WidgetFactory.h"
 
 class QMenu;
@@ -14,10 +17,22 @@ namespace norvane::ui {
 constexpr Qt::WindowFlags kDialogFrame =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
+class WindowMemory;
+
+/// What the windows of one desktop share.
+struct WindowServices {
+  const WidgetFactory& factory;
+  FocusBridge& focus;
+  WindowMemory& memory;
+  std::function<void(const Form&)> help;  ///< opens the help page of a form
+  std::function<void(ui::Theme)> chooseTheme;
+};
+
 /// The window of a form: draws the form's description and forwards what the user does. All state is the form's.
 class FormWindow : public QMainWindow {
  public:
-  FormWindow(Form& form, const WidgetFactory& factory, FocusBridge& focus);
+  /// The services must outlive the window.
+  FormWindow(Form& form, const WindowServices& services);
 
   /// Shows the window, or brings it forward if it is visible. It stays above `owner`, which may be null.
   void Present(QWidget* owner);
@@ -42,7 +57,13 @@ class FormWindow : public QMainWindow {
   void BuildMenu();
   void AddEntry(QMenu& menu, MenuEntry& entry);
   QMenu* MakeMenu(MenuEntry& entry);
-  void BuildPage(const WidgetFactory& factory, FocusBridge& focus);
+  void AddViewMenu();
+  void BuildPage();
+  void ShowPage(QWidget& page);
+  void AddShortcuts();
+  template <class Action>
+  void AddShortcut(const QKeySequence& key, Action action);
+  void TurnTab(int by);
   void SetTabOrder();
   void ChooseFlags();
   void FormChanged(Aspect aspect);
@@ -51,18 +72,24 @@ class FormWindow : public QMainWindow {
   void BelongTo(QWidget* owner);
   void TakeFirstPlace(QWidget* owner);
   void FitOnScreen();
-  QPoint PlaceBeside(const QWidget* owner) const;
+  QPoint MiddleOf(const QWidget* owner) const;
+  QPoint PlaceBeside(const QWidget* opener) const;
   QSize SizeOfForm() const;
   int MenuHeight() const;
   /// Whether what the user does with the window is reported to the form.
   bool Reports() const;
   void ReportSize();
   bool PressButton(bool ButtonStyle::*role);
+  bool PressGo();
+  bool TakeKeptPlace();
+  bool IsSmall() const;
 
   Form* form_;
+  const WindowServices& services_;
   std::vector<std::pair<const Control*, QWidget*>> widgets_;
   bool following_ = false;  ///< the window is taking the place that the model has
   bool placed_ = false;
+  bool keepsPlace_ = false;  ///< from one run to the next, as its screen doesn't
 };
 
 }  // namespace norvane::ui

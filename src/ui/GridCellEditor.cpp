@@ -1,5 +1,6 @@
 #include "ui/GridCellEditor.h"
 
+#include <algorithm>
 #include <map>
 
 #include <QAbstractItemView>
@@ -9,9 +10,15 @@
 #include <QSignalBlocker>
 
 #include "forms/Form.h"
+#include "ui/Apostrophe.h"
 #include "ui/Convert.h"
 
 namespace norvane::ui {
+namespace {
+
+constexpr int kRoomAround = 16;  // of the text in its field
+
+}  // namespace
 
 bool ToGridKey(const QKeyEvent& event, GridKeyPress& press) {
   static const std::map<int, Key> keys = {{Qt::Key_Tab, Key::Tab},       {Qt::Key_Backtab, Key::Tab},
@@ -32,9 +39,11 @@ bool ToGridKey(const QKeyEvent& event, GridKeyPress& press) {
   return true;
 }
 
-GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport, std::function<Qt::Alignment(int col)> alignment)
+GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport, const CellEntry& entry,
+                               std::function<Qt::Alignment(int col)> alignment)
     : QObject(viewport),
       grid_(&grid),
+      entry_(entry),
       alignment_(std::move(alignment)),
       viewport_(viewport),
       line_(new QLineEdit(viewport)),
@@ -45,8 +54,10 @@ GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport, std::function<Qt::
   }
   list_->setFocusPolicy(Qt::StrongFocus);
   list_->view()->installEventFilter(this);
+  TypeApostrophes(*line_);
   connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (grid_) grid_->SetEditText(FromQt(text));
+    Place(cell_);
   });
   connect(list_, &QComboBox::activated, this, [this](int index) {
     if (grid_) grid_->PickItem(index);
@@ -66,8 +77,8 @@ QWidget* GridCellEditor::Field() const {
 void GridCellEditor::Follow(const QRect& cell) {
   if (!grid_ || !grid_->Editing()) return Hide();
   const bool begins = !Field()->isVisible();
-  Place(cell);
   Field() == list_ ? ShowList() : ShowLine();
+  Place(cell);
   if (!begins) return;
   Field()->show();
   Field()->raise();
@@ -79,13 +90,26 @@ void GridCellEditor::TakeKeyboard() {
 }
 
 void GridCellEditor::Place(const QRect& cell) {
-  if (grid_ && grid_->Editing()) Field()->setGeometry(cell.adjusted(0, 0, 0, -1));
+  if (!grid_ || !grid_->Editing()) return;
+  cell_ = cell;
+  Field()->setGeometry(Field() == line_ ? Grown(cell.adjusted(0, 0, 0, -1)) : cell.adjusted(0, 0, 0, -1));
+}
+
+/// As wide as its text needs, over the neighbours of a narrow cell, but within the grid.
+QRect GridCellEditor::Grown(QRect cell) const {
+  const int needed = line_->fontMetrics().horizontalAdvance(line_->text()) + kRoomAround;
+  const int width = std::clamp(needed, cell.width(), std::max(cell.width(), viewport_->width()));
+  if (line_->alignment() & Qt::AlignRight) cell.setLeft(cell.right() - width + 1);
+  cell.setWidth(width);
+  if (cell.right() >= viewport_->width()) cell.moveRight(viewport_->width() - 1);
+  if (cell.left() < 0) cell.moveLeft(0);
+  return cell;
 }
 
 void GridCellEditor::ShowLine() {
   line_->setAlignment(alignment_(grid_->Col()));
   if (line_->text() == ToQt(grid_->EditText()) && line_->isVisible()) return;
-  line_->setText(ToQt(grid_->EditText()));
+  ShowStored(*line_, ToQt(grid_->EditText()));
   if (!line_->isVisible()) line_->selectAll();
 }
 
@@ -121,6 +145,7 @@ bool GridCellEditor::eventFilter(QObject* watched, QEvent* event) {
     event->ignore();  // the grid scrolls
     return true;
   }
+  if (watched == line_ && event->type() == QEvent::FocusOut) FinishSum();
   if (!grid_ || event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
   const auto& key = static_cast<QKeyEvent&>(*event);
   return watched == list_->view() ? KeyPressedInList(key) : KeyPressed(key);
@@ -144,15 +169,50 @@ bool GridCellEditor::UseKey(const GridKeyPress& press) {
   return used || press.key == Key::Tab;
 }
 
+std::optional<QString> GridCellEditor::ContentByKey(const QKeyEvent& event, const QString& text) const {
+  const bool holdsControl = event.modifiers().testFlag(Qt::ControlModifier);
+  if (holdsControl && event.key() == Qt::Key_Apostrophe && grid_->Row() > 1) {
+    return ToQt(grid_->Cell(grid_->Row() - 1, grid_->Col()));
+  }
+  if (holdsControl || Type() != ColumnType::Date) return std::nullopt;
+  return entry_.DateByKey(event.text(), text);
+}
+
+bool GridCellEditor::BeginByKey(const QKeyEvent& event) {
+  if (!grid_ || grid_->Kind() != GridKind::Editable || grid_->Editing() || grid_->Row() < 1) return false;
+  const auto content = ContentByKey(event, ToQt(grid_->Cell(grid_->Row(), grid_->Col())));
+  if (!content || !grid_->BeginEdit()) return false;
+  grid_->SetEditText(FromQt(*content));
+  if (grid_) line_->selectAll();
+  return true;
+}
+
+void GridCellEditor::FinishSum() {
+  if (!grid_ || !grid_->Editing() || Field() != line_) return;
+  if (Type() != ColumnType::Currency) return;
+  const QString before = ToQt(grid_->Cell(grid_->Row(), grid_->Col()));
+  if (const auto value = entry_.ValueOfSum(line_->text(), before)) grid_->SetEditText(FromQt(*value));
+}
+
 bool GridCellEditor::KeyPressed(const QKeyEvent& event) {
   GridKeyPress press{};
   const bool isList = Field() == list_;
+  // A separator typed within a date is no step to another day.
+  const bool isWhole = line_->selectedText() == line_->text() || event.text() == "+";
+  if (const auto content =
+          isWhole || event.modifiers() & Qt::ControlModifier ? ContentByKey(event, line_->text()) : std::nullopt) {
+    grid_->SetEditText(FromQt(*content));
+    line_->selectAll();
+    return true;
+  }
   if (ToGridKey(event, press) && press.key != Key::Space) {
     const bool opens = press.key == Key::F4 || (press.key == Key::Down && press.modifiers.alt);
     if (isList && opens) {
       OpenList();
       return true;
     }
+    const bool staysInText = press.key == Key::Left || press.key == Key::Right || press.key == Key::Escape;
+    if (!staysInText) FinishSum();
     return UseKey(press) || isList;
   }
   const bool isText = !event.text().isEmpty() && event.text().at(0).isPrint() &&

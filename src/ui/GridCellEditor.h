@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QObject>
 #include <QRect>
 
 #include "forms/Grid.h"
+#include "ui/CellEntry.h"
 
 class QComboBox;
 class QKeyEvent;
@@ -25,7 +27,8 @@ bool ToGridKey(const QKeyEvent& event, GridKeyPress& press);
 class GridCellEditor : public QObject {
  public:
   /// `alignment` returns the alignment of a column's cells, so that a text doesn't jump when its edit begins.
-  GridCellEditor(Grid& grid, QWidget* viewport, std::function<Qt::Alignment(int col)> alignment);
+  GridCellEditor(Grid& grid, QWidget* viewport, const CellEntry& entry,
+                 std::function<Qt::Alignment(int col)> alignment);
   void Abandon();
 
   /// Shows the edit under way, or hides the field if there is none.
@@ -33,6 +36,11 @@ class GridCellEditor : public QObject {
   void Place(const QRect& cell);
   /// Gives the visible field the focus.
   void TakeKeyboard();
+  /// Begins an edit by a key that gives the cell its content at once: "t", "+" and "-" in a date, Ctrl+' for the
+  /// content of the cell above. False for any other key, and where the cell can't be edited.
+  bool BeginByKey(const QKeyEvent& event);
+  /// Puts its value in the place of a sum.
+  void FinishSum();
   /// Opens the list of a drop-down that is being edited.
   void OpenList();
 
@@ -40,6 +48,9 @@ class GridCellEditor : public QObject {
 
  private:
   QWidget* Field() const;
+  QRect Grown(QRect cell) const;
+  std::optional<QString> ContentByKey(const QKeyEvent& event, const QString& text) const;
+  ColumnType Type() const { return grid_->ColDataType(grid_->Col()); }
   void ShowLine();
   void ShowList();
   void Hide();
@@ -48,10 +59,12 @@ class GridCellEditor : public QObject {
   bool UseKey(const GridKeyPress& press);
 
   Grid* grid_;
+  CellEntry entry_;
   std::function<Qt::Alignment(int col)> alignment_;
   QWidget* viewport_;
   QLineEdit* line_;
   QComboBox* list_;
+  QRect cell_;
 };
 
 }  // namespace norvane::ui

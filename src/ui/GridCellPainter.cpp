@@ -11,6 +11,10 @@ namespace {
 constexpr int kHelperWidth = 22;
 constexpr int kCheckSize = 16;
 
+bool IsNegative(const QString& figure) {
+  return figure.startsWith('-') || figure.startsWith('(');
+}
+
 }  // namespace
 
 QRect GridCellPainter::HelperRect(const QRect& cell) {
@@ -45,10 +49,14 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   const auto alignment = static_cast<Qt::Alignment>(index.data(Qt::TextAlignmentRole).toInt());
   const auto& colours = Colours::Of(option.palette);
   const bool isMarker = grid_->Kind() == GridKind::Editable && index.column() == 0;
-  painter->setPen(isMarker ? colours.accent : option.state & QStyle::State_Enabled ? colours.text : colours.muted);
+  const QString text = index.data(Qt::DisplayRole).toString();
+  const bool isNegative = alignment & Qt::AlignRight && IsNegative(text);
+  painter->setPen(isMarker                               ? colours.accent
+                  : isNegative                           ? colours.red
+                  : option.state & QStyle::State_Enabled ? colours.text
+                                                         : colours.muted);
   painter->setFont(option.font);
   const QRect room = isMarker ? option.rect : inner;
-  const QString text = index.data(Qt::DisplayRole).toString();
   painter->drawText(room, static_cast<int>(alignment),
                     option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
   painter->restore();
@@ -60,13 +68,21 @@ void GridCellPainter::PaintGround(QPainter& painter, const QStyleOptionViewItem&
   const bool isEditable = grid_->Kind() == GridKind::Editable;
   const bool isCurrentRow = index.row() + 1 == grid_->Row();
   const bool isMarker = isEditable && index.column() == 0;
-  painter.fillRect(option.rect, isCurrentRow ? colours.current : isMarker ? colours.band : colours.surface);
+  const QColor& selected = grid_->HasFocus() ? colours.current : colours.idle;
+  const QColor& plain = !isEditable && index.row() % 2 == 1 ? colours.stripe : colours.surface;
+  painter.fillRect(option.rect, isCurrentRow ? selected : isMarker ? colours.band : plain);
   painter.setPen(colours.line);
   painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
   if (isEditable) painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
-  if (!isEditable || !isCurrentRow || index.column() != grid_->Col() || !grid_->HasFocus()) return;
-  painter.setPen(QPen(colours.accent, 2));
-  painter.drawRect(option.rect.adjusted(1, 1, -1, -2));
+  if (!isCurrentRow || !grid_->HasFocus()) return;
+  if (!isEditable) {
+    painter.setPen(colours.accent);
+    painter.drawLine(option.rect.topLeft(), option.rect.topRight());
+    painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  } else if (index.column() == grid_->Col()) {
+    painter.setPen(QPen(colours.accent, 2));
+    painter.drawRect(option.rect.adjusted(1, 1, -1, -2));
+  }
 }
 
 void GridCellPainter::PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, bool checked) const {

@@ -1,15 +1,26 @@
 #include "ui/GridTableModel.h"
 
+#include <algorithm>
+
 #include "ui/Convert.h"
 
 namespace norvane::ui {
 namespace {
 
-/// The text without case and accents, for searching.
+bool IsAscii(const QString& text) {
+  return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+/// The text without case and accents and with one kind of apostrophe, for searching.
 QString Folded(const QString& text) {
+  if (IsAscii(text)) return text.toLower();
   QString folded;
   for (const QChar c : text.normalized(QString::NormalizationForm_D)) {
-    if (c.category() != QChar::Mark_NonSpacing) folded += c.toCaseFolded();
+    if (c == QChar(0x2019)) {
+      folded += '\'';
+    } else if (c.category() != QChar::Mark_NonSpacing) {
+      folded += c.toCaseFolded();
+    }
   }
   return folded;
 }
@@ -61,19 +72,25 @@ int GridTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : columns_;
 }
 
-/// The next row, around the end, whose cell of the starting column begins with the value, else one of a later column.
-QModelIndexList GridTableModel::match(const QModelIndex& start, int role, const QVariant& value, int,
-                                      Qt::MatchFlags) const {
-  const QString wanted = Folded(value.toString());
-  for (int col = start.column(); col < columns_; ++col) {
+int GridTableModel::Find(const QString& word, int start) const {
+  const QString wanted = Folded(word);
+  const QString within = " " + wanted;
+  const auto begins = [&](const QString& text) { return text.startsWith(wanted); };
+  const auto hasWord = [&](const QString& text) { return text.contains(within); };
+  const int found = FindText(begins, start);
+  return found >= 0 ? found : FindText(hasWord, start);
+}
+
+template <class Matches>
+int GridTableModel::FindText(Matches matches, int start) const {
+  for (int col = 0; col < columns_; ++col) {
     if (grid_->ColWidth(col) == 0) continue;
     for (int step = 0; step < rows_; ++step) {
-      const int row = (start.row() + step) % rows_;
-      const QString text = data(index(row, col), role).toString();
-      if (Folded(text).startsWith(wanted)) return {index(row, start.column())};
+      const int row = (start + step) % rows_;
+      if (matches(Folded(data(index(row, col), Qt::DisplayRole).toString()))) return row;
     }
   }
-  return {};
+  return -1;
 }
 
 QVariant GridTableModel::data(const QModelIndex& index, int role) const {
@@ -89,6 +106,8 @@ QVariant GridTableModel::data(const QModelIndex& index, int role) const {
       return grid_->Cell(row, index.column()) == "-1" ? Qt::Checked : Qt::Unchecked;
     case Qt::TextAlignmentRole:
       return QVariant(AlignmentOf(index.column()));
+    case Qt::AccessibleTextRole:
+      return SpokenText(row, index.column());
     default:
       return {};
   }
@@ -98,7 +117,20 @@ QVariant GridTableModel::headerData(int section, Qt::Orientation orientation, in
   if (!grid_ || orientation != Qt::Horizontal || section >= grid_->Cols()) return {};
   if (role == Qt::DisplayRole) return ToQt(grid_->Cell(0, section));
   if (role == Qt::TextAlignmentRole) return QVariant(AlignmentOf(section));
+  if (role == Qt::AccessibleTextRole) return SpokenHeading(section);
   return {};
+}
+
+/// A column without heading holds the markers of rows.
+QString GridTableModel::SpokenHeading(int col) const {
+  const QString heading = ToQt(grid_->Cell(0, col));
+  return heading.isEmpty() ? QString("Marker") : heading;
+}
+
+QString GridTableModel::SpokenText(int row, int col) const {
+  const bool isBoolean = grid_->ColDataType(col) == ColumnType::Boolean;
+  const QString text = isBoolean ? (grid_->Cell(row, col) == "-1" ? "yes" : "no") : ToQt(grid_->DisplayText(row, col));
+  return SpokenHeading(col) + ": " + (text.isEmpty() ? QString("empty") : text);
 }
 
 Qt::Alignment GridTableModel::AlignmentOf(int col) const {

@@ -13,10 +13,13 @@
 #include <QToolTip>
 
 #include "forms/Form.h"
+#include "ui/Apostrophe.h"
 #include "ui/Convert.h"
 #include "ui/GridCellEditor.h"
 #include "ui/GridCellPainter.h"
 #include "ui/GridTableModel.h"
+#include "ui/TypeAhead.h"
+#include "ui/WindowMemory.h"
 
 namespace norvane::ui {
 namespace {
@@ -31,17 +34,21 @@ constexpr int kHeadingPadding = 10;
 
 }  // namespace
 
-GridView::GridView(Grid& grid, QWidget* parent, const RegionalSettings& settings)
+GridView::GridView(Grid& grid, QWidget* parent, const WidgetServices& services)
     : QTableView(parent),
       grid_(&grid),
       table_(new GridTableModel(grid)),
       painter_(new GridCellPainter(grid, this)),
-      texts_(settings) {
+      typed_(new TypeAhead(this)),
+      texts_(services.convert.Settings()),
+      memory_(services.memory),
+      userWidths_(memory_.ColumnWidths(grid)) {
   table_->setParent(this);
   setModel(table_);
   setItemDelegate(painter_);
   SetLook();
-  editor_ = new GridCellEditor(grid, viewport(), [this](int col) { return table_->AlignmentOf(col); });
+  editor_ = new GridCellEditor(grid, viewport(), CellEntry(services.convert, services.clock),
+                               [this](int col) { return table_->AlignmentOf(col); });
   grid.view = this;
   binding_ = new Binding(grid, *this, nullptr);
   connect(binding_, &QObject::destroyed, this, &GridView::Abandon);
@@ -116,15 +123,23 @@ void GridView::Sync() {
     table_->Sync();
   }
   if (std::exchange(allWaiting_, false)) {
-    MeasureColumns();
-    ArrangeColumns();
+    if (!KeepsWidths()) {
+      MeasureColumns();
+      ArrangeColumns();
+    }
     table_->RefreshAll();
   }
   FollowTopRow();
   editor_->Place(CurrentCell());
 }
 
+/// Nothing moves under the eyes of a user who works in the grid.
+bool GridView::KeepsWidths() {
+  return !std::exchange(columnsWaiting_, false) && grid_->HasFocus() && hadRows_;
+}
+
 void GridView::ColumnsChanged() {
+  columnsWaiting_ = true;
   RowsReset();
 }
 
@@ -190,6 +205,7 @@ QRect GridView::CurrentCell() const {
 }
 
 void GridView::MeasureColumns() {
+  hadRows_ = grid_->Rows() > 1;
   needs_.assign(static_cast<std::size_t>(grid_->Cols()), {});
   std::vector<bool> figures(needs_.size(), false);
   for (int col = 0; col < grid_->Cols(); ++col) {
@@ -238,6 +254,7 @@ int GridView::ColumnForRest() const {
 void GridView::SectionResized(int section, int width) {
   if (!arranging_ && QApplication::mouseButtons() & Qt::LeftButton && horizontalHeader()->underMouse()) {
     userWidths_[section] = width;
+    if (grid_) memory_.KeepColumnWidths(*grid_, userWidths_);
   }
   if (grid_) editor_->Place(CurrentCell());
 }
@@ -250,6 +267,7 @@ void GridView::ReportVisibleRows() {
 
 void GridView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
+  typed_->Place();
   ReportVisibleRows();
   if (grid_ && !allWaiting_) ArrangeColumns();
 }
@@ -284,6 +302,7 @@ void GridView::AcceptInputMethods() {
 
 void GridView::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
+  if (event->reason() != Qt::PopupFocusReason) typed_->Forget();
   viewport()->update();
 }
 
@@ -325,8 +344,10 @@ bool GridView::event(QEvent* event) {
 void GridView::keyPressEvent(QKeyEvent* event) {
   if (!grid_) return;
   Form& form = grid_->Parent();
+  if (UseKeyForTyped(*event) || editor_->BeginByKey(*event)) return event->accept();
   GridKeyPress press{};
   if (ToGridKey(*event, press)) {
+    if (press.key != Key::Space) typed_->Forget();
     const bool used = grid_->UserKey(press.key, press.modifiers);
     if (!used && grid_ && press.key == Key::Tab) return form.UserTab(press.modifiers.shift);
     const bool opens = press.key == Key::F4 || (press.key == Key::Down && press.modifiers.alt);
@@ -339,40 +360,61 @@ void GridView::keyPressEvent(QKeyEvent* event) {
                       !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
   event->setAccepted(isText);
   if (!isText) return;
-  grid_->UserText(FromQt(event->text()));
+  grid_->UserText(FromQt(WithApostrophes(event->text())));
   Search(event->text());
 }
 
-/// Goes to the next row with a cell that begins with the letters typed, in the first column if possible.
 void GridView::Search(const QString& letters) {
-  if (!grid_ || grid_->Kind() != GridKind::List) return;
-  if (waiting_) Sync();
-  const int first = FirstShownColumn();
-  if (first < 0) return;
-  {
-    const QScopedValueRollback following(following_, true);
-    selectionModel()->setCurrentIndex(table_->index(grid_->Row() - 1, first), QItemSelectionModel::NoUpdate);
-    keyboardSearch(letters);
-  }
-  const int found = currentIndex().row() + 1;
-  if (found != grid_->Row()) grid_->UserFind(found);
+  if (!grid_ || grid_->Kind() != GridKind::List || grid_->Editing()) return;
+  const bool begins = typed_->Begins();
+  if (begins && letters.trimmed().isEmpty()) return;
+  FindTyped(typed_->Add(letters), begins ? grid_->Row() : grid_->Row() - 1);
 }
 
-int GridView::FirstShownColumn() const {
-  int col = 0;
-  while (col < grid_->Cols() && grid_->ColWidth(col) == 0) ++col;
-  return col < grid_->Cols() ? col : -1;
+/// `start` counts from 0. A letter typed again and again goes from row to row.
+void GridView::FindTyped(const QString& word, int start) {
+  if (waiting_) Sync();
+  int found = table_->Find(word, std::max(0, start));
+  const bool isOneLetter = word.count(word.front(), Qt::CaseInsensitive) == word.size();
+  if (found < 0 && isOneLetter) found = table_->Find(word.first(1), grid_->Row());
+  typed_->ShowResult(found >= 0);
+  if (found >= 0 && found + 1 != grid_->Row()) grid_->UserFind(found + 1);
+}
+
+/// Backspace and Escape correct the word typed. Enter is refused as long as no row matches it: the row marked is not
+/// the one that the user means.
+bool GridView::UseKeyForTyped(const QKeyEvent& event) {
+  if (typed_->IsEmpty()) return false;
+  switch (event.key()) {
+    case Qt::Key_Backspace:
+      if (const QString word = typed_->RemoveLast(); !word.isEmpty()) {
+        FindTyped(word, grid_->Row() - 1);
+      } else {
+        typed_->Forget();
+      }
+      return true;
+    case Qt::Key_Escape:
+      typed_->Forget();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return typed_->Missed();
+    default:
+      return false;
+  }
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {
   event->accept();
   if (!grid_ || event->commitString().isEmpty()) return;
-  grid_->UserText(FromQt(event->commitString()));
+  grid_->UserText(FromQt(WithApostrophes(event->commitString())));
   Search(event->commitString());
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (!grid_ || event->button() != Qt::LeftButton) return;
+  typed_->Forget();
+  editor_->FinishSum();
   const QModelIndex cell = indexAt(event->pos());
   if (!cell.isValid()) return ClickBesideRows();
   const int row = cell.row() + 1;

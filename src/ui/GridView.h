@@ -8,19 +8,20 @@
 #include "forms/Grid.h"
 #include "ui/Binding.h"
 #include "ui/ColumnWidths.h"
+#include "ui/WidgetFactory.h"
 
 namespace norvane::ui {
 
 class GridCellEditor;
 class GridCellPainter;
 class GridTableModel;
+class TypeAhead;
 
 /// The table that shows a grid. The grid decides everything: the view passes keys, text and clicks to it and draws the
 /// result. However often the grid changes, the view synchronises once, before it paints or takes input.
 class GridView : public QTableView, private GridObserver {
  public:
-  /// Amounts and dates are recognised in the region's form.
-  GridView(Grid& grid, QWidget* parent, const RegionalSettings& settings);
+  GridView(Grid& grid, QWidget* parent, const WidgetServices& services);
   Binding* Bound() const { return binding_; }
 
   QSize sizeHint() const override;
@@ -58,7 +59,9 @@ class GridView : public QTableView, private GridObserver {
   void Sync();
   int ColumnForRest() const;
   void Search(const QString& letters);
-  int FirstShownColumn() const;
+  void FindTyped(const QString& word, int start);
+  bool UseKeyForTyped(const QKeyEvent& event);
+  bool KeepsWidths();
   void MeasureColumns();
   void ArrangeColumns();
   bool ShowCutOffText(const QPoint& at, const QPoint& onScreen);
@@ -75,13 +78,17 @@ class GridView : public QTableView, private GridObserver {
   Grid* grid_;
   GridTableModel* table_;
   GridCellPainter* painter_;
+  TypeAhead* typed_;
   GridCellEditor* editor_;
   Binding* binding_;
   CellTexts texts_;
+  WindowMemory& memory_;
   std::map<int, int> userWidths_;   ///< by column, in pixels
   std::vector<ColumnNeeds> needs_;  ///< by column
   bool waiting_ = false;            ///< for Sync
   bool allWaiting_ = true;
+  bool columnsWaiting_ = true;
+  bool hadRows_ = false;  ///< when the columns were measured
   bool arranging_ = false;
   bool following_ = false;
 };

@@ -8,35 +8,40 @@
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QTextBrowser>
+#include <QStyle>
 #include <QToolBar>
 
 #include "ui/Convert.h"
+#include "ui/HelpPage.h"
 #include "ui/Theme.h"
 
 namespace norvane::ui {
 namespace {
 
-/// The title of a page, or its file name if it has none.
-QString TitleOf(const QString& path) {
+constexpr auto kAnyCase = QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption;
+
+QString Read(const QString& path) {
   QFile file(path);
-  static const QRegularExpression title(
-      "<title>\\s*(.*?)\\s*</title>",
-      QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-  const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-  const auto match = title.match(text);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The title of a page, or its file name if it has none.
+QString TitleOf(const QString& html, const QString& path) {
+  static const QRegularExpression title("<title>\\s*(.*?)\\s*</title>", kAnyCase);
+  const auto match = title.match(html);
   return match.hasMatch() ? match.captured(1) : QFileInfo(path).completeBaseName();
 }
 
+QStringList ScreensOf(const QString& html) {
+  static const QRegularExpression screens("<meta name=\"screens\" content=\"(.*?)\"", kAnyCase);
+  return screens.match(html).captured(1).split(' ', Qt::SkipEmptyParts);
+}
+
 /// The pages that a page links to, in its order.
-QStringList LinksOf(const QString& path) {
-  QFile file(path);
-  static const QRegularExpression link("href=\"([^\"#/:]+\\.html)", QRegularExpression::CaseInsensitiveOption);
+QStringList LinksOf(const QString& html) {
+  static const QRegularExpression link("href=\"([^\"#/:]+\\.html)", kAnyCase);
   QStringList names;
-  if (!file.open(QIODevice::ReadOnly)) return names;
-  for (auto match = link.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();) {
-    names.append(match.next().captured(1));
-  }
+  for (auto match = link.globalMatch(html); match.hasNext();) names.append(match.next().captured(1));
   names.removeDuplicates();
   return names;
 }
@@ -44,7 +49,7 @@ QStringList LinksOf(const QString& path) {
 }  // namespace
 
 HelpViewer::HelpViewer(const std::filesystem::path& folder)
-    : contents_(new QListWidget(this)), page_(new QTextBrowser(this)) {
+    : contents_(new QListWidget(this)), page_(new HelpPage(this)), find_(new QLineEdit(this)) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(tr("Norvanes Help"));
   auto* splitter = new QSplitter(this);
@@ -54,17 +59,18 @@ HelpViewer::HelpViewer(const std::filesystem::path& folder)
   splitter->setSizes({240, 720});
   splitter->setContentsMargins(12, 12, 12, 12);
   setCentralWidget(splitter);
-  page_->document()->setDocumentMargin(16);
-  page_->setOpenExternalLinks(true);
   contents_->setAccessibleName(tr("Contents"));
   BuildTools();
-  const QString path = FromPath(folder);
-  ListPages(path);
+  const QDir files(FromPath(folder));
+  AddPage(files.filePath(kFirstPage));
+  for (const auto& name : LinksOf(Read(files.filePath(kFirstPage)))) {
+    if (name != kFirstPage && files.exists(name)) AddPage(files.filePath(name));
+  }
   connect(contents_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
     if (item) page_->setSource(item->data(Qt::UserRole).toUrl());
   });
   connect(page_, &QTextBrowser::sourceChanged, this, &HelpViewer::MarkPage);
-  page_->setSource(QUrl::fromLocalFile(QDir(path).filePath(kFirstPage)));
+  page_->setSource(QUrl::fromLocalFile(files.filePath(kFirstPage)));
   page_->setFocus();
   resize(980, 680);
 }
@@ -72,7 +78,7 @@ HelpViewer::HelpViewer(const std::filesystem::path& folder)
 void HelpViewer::BuildTools() {
   auto* tools = addToolBar(tr("Navigation"));
   tools->setMovable(false);
-  tools->setIconSize({20, 20});
+  tools->setIconSize({kIconSize, kIconSize});
   auto* back = tools->addAction(NamedIcon("back"), tr("Back"), QKeySequence::Back, page_, &QTextBrowser::backward);
   auto* forward =
       tools->addAction(NamedIcon("forward"), tr("Forward"), QKeySequence::Forward, page_, &QTextBrowser::forward);
@@ -81,28 +87,33 @@ void HelpViewer::BuildTools() {
   forward->setEnabled(false);
   connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
   connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-  auto* find = new QLineEdit(tools);
-  find->setPlaceholderText(tr("Find on this page"));
-  find->setMaximumWidth(240);
-  find->setClearButtonEnabled(true);
-  tools->addWidget(find);
-  connect(find, &QLineEdit::returnPressed, this, [this, find] { Find(find->text()); });
-  auto* close = new QAction(this);
-  close->setShortcut(Qt::Key_Escape);
-  connect(close, &QAction::triggered, this, &QWidget::close);
-  addAction(close);
+  find_->setPlaceholderText(tr("Find on all pages"));
+  find_->setAccessibleName(tr("Find on all pages"));
+  find_->setMaximumWidth(280);
+  find_->setClearButtonEnabled(true);
+  tools->addWidget(find_);
+  connect(find_, &QLineEdit::textChanged, this, &HelpViewer::Find);
+  connect(find_, &QLineEdit::returnPressed, this, &HelpViewer::GoToNext);
+  const auto addKey = [this](const QKeySequence& key, auto action) {
+    auto* entry = new QAction(this);
+    entry->setShortcut(key);
+    connect(entry, &QAction::triggered, this, action);
+    addAction(entry);
+  };
+  addKey(QKeySequence::Find, [this] { find_->setFocus(Qt::ShortcutFocusReason); });
+  addKey(Qt::Key_Escape, [this] { close(); });
 }
 
-void HelpViewer::ListPages(const QString& folder) {
-  const QDir pages(folder);
-  const auto add = [&](const QString& name) {
-    const QString path = pages.filePath(name);
-    auto* item = new QListWidgetItem(TitleOf(path), contents_);
-    item->setData(Qt::UserRole, QUrl::fromLocalFile(path));
-  };
-  add(kFirstPage);
-  for (const auto& name : LinksOf(pages.filePath(kFirstPage))) {
-    if (pages.exists(name)) add(name);
+void HelpViewer::AddPage(const QString& path) {
+  const QString html = Read(path);
+  auto* item = new QListWidgetItem(TitleOf(html, path), contents_);
+  item->setData(Qt::UserRole, QUrl::fromLocalFile(path));
+  pages_.push_back({PlainTextOf(html), ScreensOf(html)});
+}
+
+void HelpViewer::GoToPageOf(const QString& screen) {
+  for (std::size_t row = 0; row < pages_.size(); ++row) {
+    if (pages_[row].screens.contains(screen)) return contents_->setCurrentRow(static_cast<int>(row));
   }
 }
 
@@ -112,12 +123,41 @@ void HelpViewer::MarkPage(const QUrl& page) {
     const QUrl listed = contents_->item(row)->data(Qt::UserRole).toUrl();
     if (listed.path() == page.path()) contents_->setCurrentRow(row);
   }
+  page_->Mark(find_->text());
 }
 
+/// Lists the pages that have the words, and opens the first one unless the page read is among them.
 void HelpViewer::Find(const QString& words) {
-  if (page_->find(words)) return;
-  page_->moveCursor(QTextCursor::Start);  // from the top again
+  for (int row = 0; row < contents_->count(); ++row) {
+    contents_->item(row)->setHidden(!pages_[static_cast<std::size_t>(row)].text.contains(words, Qt::CaseInsensitive));
+  }
+  const int first = NextListed(-1);
+  find_->setProperty("missed", first < 0);
+  find_->style()->unpolish(find_);
+  find_->style()->polish(find_);
+  page_->Mark(words);
+  const QListWidgetItem* current = contents_->currentItem();
+  if (first >= 0 && current && current->isHidden()) contents_->setCurrentRow(first);
+}
+
+/// The next place on the page, or on the next page listed.
+void HelpViewer::GoToNext() {
+  const QString words = find_->text();
+  if (words.isEmpty() || page_->find(words)) return;
+  const int below = NextListed(contents_->currentRow());
+  const int next = below >= 0 ? below : NextListed(-1);
+  if (next < 0) return;
+  contents_->setCurrentRow(next);
+  page_->moveCursor(QTextCursor::Start);
   page_->find(words);
+}
+
+/// The first page listed below the row, -1 if there is none.
+int HelpViewer::NextListed(int row) const {
+  for (++row; row < contents_->count(); ++row) {
+    if (!contents_->item(row)->isHidden()) return row;
+  }
+  return -1;
 }
 
 }  // namespace norvane::ui

@@ -1,6 +1,8 @@
 #include "ui/LayoutBuilder.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include <QBoxLayout>
 #include <QFrame>
@@ -11,7 +13,10 @@
 #include <QTabWidget>
 
 #include "forms/Controls.h"
+#include "forms/Preview.h"
 #include "ui/Convert.h"
+#include "ui/PreviewWidget.h"
+#include "ui/StandardWidgets.h"
 #include "ui/Strip.h"
 
 namespace norvane::ui {
@@ -36,6 +41,24 @@ bool IsBand(const Node& node) {
          node.children.front().kind == Kind::Strip;
 }
 
+bool HasPreview(const Node& root) {
+  const auto controls = layout::ControlsOf(root);
+  return std::any_of(controls.begin(), controls.end(),
+                     [](Control* control) { return dynamic_cast<Preview*>(control); });
+}
+
+/// The only content of a strip, if that is a button: it takes its place in the preview's bar and spares the strip.
+const Node* LoneButton(const Node& strip) {
+  if (strip.kind != Kind::Strip) return nullptr;
+  const Node* button = nullptr;
+  for (const Node& child : strip.children) {
+    if (child.kind == Kind::Space) continue;
+    if (button || !dynamic_cast<Button*>(child.control)) return nullptr;
+    button = &child;
+  }
+  return button;
+}
+
 /// The width in characters of a text box, with or without its label; 0 for anything else.
 int LengthOf(const Node& node) {
   if (node.kind == Kind::Field) return LengthOf(node.children.front());
@@ -47,6 +70,20 @@ int LengthOf(const Node& node) {
 bool SharesRoomByLength(const Node& row) {
   const auto isPlainText = [](const Node& child) { return LengthOf(child) > 0 && child.stretch == 0; };
   return std::all_of(row.children.begin(), row.children.end(), isPlainText);
+}
+
+bool HasIcon(const Node& node, std::string_view icon) {
+  const auto* button = node.kind == Kind::Control ? dynamic_cast<const Button*>(node.control) : nullptr;
+  return button && button->Style().icon == icon;
+}
+
+/// A line between buttons of a strip.
+QWidget* Rule(QWidget& strip) {
+  constexpr int kHeight = 22;
+  auto* rule = new QFrame(&strip);
+  rule->setProperty("rule", true);
+  rule->setFixedSize(1, kHeight);
+  return rule;
 }
 
 QString WithoutMnemonic(QString caption) {
@@ -87,8 +124,12 @@ void LayoutBuilder::Fill(QWidget& page, const Node& root) {
     addInner(root);
     return;
   }
+  const Node* forBar = nullptr;
   for (const auto& child : root.children) {
-    if (IsBand(child)) {
+    const bool isPreviews = HasPreview(root) && LoneButton(child) != nullptr;
+    if (isPreviews) {
+      forBar = LoneButton(child);
+    } else if (IsBand(child)) {
       outer->addWidget(BuildBand(child, page, outer->count() == 0 ? "top" : "bottom"));
       inner = nullptr;
     } else if (dynamic_cast<StatusBar*>(child.control)) {
@@ -97,6 +138,7 @@ void LayoutBuilder::Fill(QWidget& page, const Node& root) {
       addInner(child);
     }
   }
+  if (forBar && preview_) preview_->AddToBar(*Build(*forBar, page).widget);
   if (inner && !(inner->expandingDirections() & Qt::Vertical)) inner->addStretch();
 }
 
@@ -127,9 +169,8 @@ LayoutBuilder::Piece LayoutBuilder::Build(const Node& node, QWidget& page) {
       return BuildGroup(node, page);
     case Kind::Tabs:
       return BuildTabs(node, page);
-    case Kind::Line:
-      return BuildLine(page, Qt::Horizontal);
     case Kind::Space:
+    case Kind::Line:
       return {};
   }
   return {};
@@ -139,6 +180,13 @@ LayoutBuilder::Piece LayoutBuilder::BuildControl(const Node& node, QWidget& page
   Binding* binding = factory_.Make(*node.control, &page);
   if (!binding) return {};
   made_(*node.control, *binding);
+  if (dynamic_cast<Preview*>(node.control)) preview_ = static_cast<PreviewWidget*>(&binding->Widget());
+  QWidget* const masked = std::exchange(masked_, nullptr);
+  if (dynamic_cast<MaskedBox*>(node.control)) masked_ = &binding->Widget();
+  if (masked && dynamic_cast<DatePicker*>(node.control)) {
+    PutIntoField(*masked, binding->Widget());
+    return {};
+  }
   if (auto* bar = qobject_cast<QStatusBar*>(&binding->Widget())) {
     statusBar_ = bar;
     return {};
@@ -160,24 +208,29 @@ void LayoutBuilder::AddToBox(QBoxLayout& box, const Node& node, QWidget& page, i
   if (node.kind == Kind::Space) return box.addStretch(std::max(1, node.stretch));
   const bool across = box.direction() == QBoxLayout::LeftToRight;
   if (across && node.kind == Kind::Field && box.count() > 0) box.addSpacing(kBetweenPairs - kSpacing);
-  const Piece piece =
-      node.kind == Kind::Line ? BuildLine(page, across ? Qt::Vertical : Qt::Horizontal) : Build(node, page);
+  const Piece piece = Build(node, page);
   if (piece.widget) box.addWidget(piece.widget, stretch);
   if (piece.layout) box.addLayout(piece.layout, stretch);
 }
 
+/// What deletes a record is set apart from what saves it.
 LayoutBuilder::Piece LayoutBuilder::BuildStrip(const Node& node, QWidget& page) {
   auto* strip = new Strip(&page);
   FlowLayout& flow = strip->Flow();
   flow.setContentsMargins(0, 0, 0, 0);
+  const bool saves =
+      std::any_of(node.children.begin(), node.children.end(), [](const Node& child) { return HasIcon(child, "save"); });
   for (const auto& child : node.children) {
     if (child.kind == Kind::Space) {
       flow.AddStretch();
       continue;
     }
-    const Piece piece = child.kind == Kind::Line ? BuildLine(*strip, Qt::Vertical) : Build(child, *strip);
+    const bool isApart = saves && HasIcon(child, "delete");
+    if (isApart) flow.AddWidget(Rule(*strip));
+    const Piece piece = Build(child, *strip);
     if (piece.widget) flow.AddWidget(piece.widget);
     if (piece.layout) flow.AddLayout(piece.layout);
+    if (isApart) flow.AddWidget(Rule(*strip));
   }
   return {strip, nullptr};
 }
@@ -206,7 +259,7 @@ void LayoutBuilder::AddToGrid(QGridLayout& grid, const Node& node, QWidget& page
   QWidget* label = LabelFor(node, page, content);
   if (column > 0) label->setContentsMargins(kBetweenPairs, 0, 0, 0);
   const bool tall = content.widget && content.widget->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
-  grid.addWidget(label, row, column, tall ? Qt::AlignTop : Qt::AlignVCenter);
+  grid.addWidget(label, row, column, tall ? Qt::AlignTop : Qt::Alignment());
 }
 
 LayoutBuilder::Piece LayoutBuilder::BuildField(const Node& node, QWidget& page) {
@@ -278,18 +331,6 @@ LayoutBuilder::Piece LayoutBuilder::BuildTabs(const Node& node, QWidget& page) {
   }
   binding->Refresh();
   return {tabs, nullptr};
-}
-
-LayoutBuilder::Piece LayoutBuilder::BuildLine(QWidget& page, Qt::Orientation orientation) {
-  auto* rule = new QFrame(&page);
-  rule->setProperty("rule", true);
-  if (orientation == Qt::Horizontal) {
-    rule->setFixedHeight(1);
-  } else {
-    rule->setFixedWidth(1);
-    rule->setMinimumHeight(22);
-  }
-  return {rule, nullptr};
 }
 
 }  // namespace norvane::ui

@@ -12,6 +12,8 @@ class QStatusBar;
 
 namespace norvane::ui {
 
+class PreviewWidget;
+
 /// Turns a form's layout into widgets and real layouts. Widgets are made in the layout's order, which is the tab order.
 class LayoutBuilder {
  public:
@@ -38,7 +40,6 @@ class LayoutBuilder {
   Piece BuildField(const layout::Node& node, QWidget& page);
   Piece BuildGroup(const layout::Node& node, QWidget& page);
   Piece BuildTabs(const layout::Node& node, QWidget& page);
-  Piece BuildLine(QWidget& page, Qt::Orientation orientation);
   QWidget* BuildBand(const layout::Node& node, QWidget& page, const char* edge);
 
   void AddToBox(QBoxLayout& box, const layout::Node& node, QWidget& page, int stretch);
@@ -49,6 +50,8 @@ class LayoutBuilder {
   const WidgetFactory& factory_;
   Made made_;
   QStatusBar* statusBar_ = nullptr;
+  PreviewWidget* preview_ = nullptr;
+  QWidget* masked_ = nullptr;  ///< the masked box made last, if nothing came after it
 };
 
 }  // namespace norvane::ui

@@ -53,15 +53,17 @@ PdfOutcome WritePdf(const pages::Pages& document, const QString& title, const QS
   return {painted, target.errorString()};
 }
 
-void SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent) {
+QString SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent) {
   const QString file = AskForFile(title, parent);
-  if (file.isEmpty()) return;
+  if (file.isEmpty()) return file;
   const PdfOutcome outcome = [&] {
     PageProgress progress(title, file, document.pages.size(), document.pages.size(), parent);
     return WritePdf(document, title, file, [&](std::size_t page) { return progress.Next(page); });
   }();
-  if (outcome.painted != Painted::Failed) return;
-  Warn(parent, QString("The file %1 could not be written: %2.").arg(file, outcome.why));
+  if (outcome.painted == Painted::Failed) {
+    Warn(parent, QString("The file %1 could not be written: %2.").arg(file, outcome.why));
+  }
+  return outcome.painted == Painted::All ? file : QString();
 }
 
 }  // namespace norvane::ui

@@ -18,8 +18,8 @@ struct PdfOutcome {
 PdfOutcome WritePdf(const pages::Pages& document, const QString& title, const QString& file,
                     const PageListener& onPage = {});
 
-/// Asks for a file and saves the pages there as a PDF, with a progress box that can cancel. Reports a failure in a
-/// box.
-void SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent);
+/// Asks for a file and saves the pages there as a PDF, with a progress box that can cancel. Returns the file, or an
+/// empty text if none was written; a failure is reported in a box.
+QString SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent);
 
 }  // namespace norvane::ui

@@ -2,17 +2,22 @@
 
 #include <cmath>
 
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "ui/Convert.h"
 #include "ui/PagePdf.h"
 #include "ui/PagePrinter.h"
+#include "ui/Shortcuts.h"
 #include "ui/Strip.h"
 #include "ui/Theme.h"
 #include "ui/WidgetFactory.h"
@@ -71,7 +76,7 @@ QPushButton* PreviewWidget::AddTool(const char* icon, const QString& name,
                                     const std::function<void(Preview&)>& action) {
   auto* tool = new QPushButton(bar_);
   tool->setIcon(NamedIcon(icon));
-  tool->setIconSize({18, 18});
+  tool->setIconSize({kIconSize, kIconSize});
   tool->setProperty("picture", true);
   tool->setFocusPolicy(Qt::TabFocus);
   tool->setToolTip(name);
@@ -101,12 +106,50 @@ void PreviewWidget::BuildBar() {
   next_ = AddTool("next", "Next Page", turn(1));
   last_ = AddTool("last", "Last Page", [](Preview& p) { p.SetCurrentPage(p.PageCount()); });
   BuildZoomButton();
+  surplus_ = new QLabel(bar_);
+  surplus_->setProperty("red", true);
+  strip.AddWidget(surplus_);
   strip.AddStretch();
   print_ = AddTool("print", "Print",
                    [this](Preview& p) { PrintPages(p.Pages(), ToQt(p.Title()), p.CurrentPage(), window()); });
   print_->setShortcut(QKeySequence::Print);
-  save_ = AddTool("pdf", "Save as PDF", [this](Preview& p) { SavePagesAsPdf(p.Pages(), ToQt(p.Title()), window()); });
+  save_ = AddTool("pdf", "Save as PDF",
+                  [this](Preview& p) { ShowSaved(SavePagesAsPdf(p.Pages(), ToQt(p.Title()), window())); });
   save_->setShortcut(QKeySequence::Save);
+  for (QPushButton* tool : {print_, save_}) tool->setToolTip(WithKey(tool->toolTip(), tool->shortcut()));
+  BuildSaved();
+}
+
+/// What can be done with a file just saved.
+void PreviewWidget::BuildSaved() {
+  saved_ = new QWidget(bar_);
+  auto* box = new QHBoxLayout(saved_);
+  box->setContentsMargins(8, 0, 0, 0);
+  savedAs_ = new QLabel(saved_);
+  savedAs_->setTextFormat(Qt::PlainText);
+  box->addWidget(savedAs_);
+  const auto add = [&](const QString& caption, auto urlOf) {
+    auto* button = new QPushButton(caption, saved_);
+    button->setFocusPolicy(Qt::TabFocus);
+    box->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, urlOf] { QDesktopServices::openUrl(urlOf(QFileInfo(file_))); });
+  };
+  add("&Open", [](const QFileInfo& file) { return QUrl::fromLocalFile(file.filePath()); });
+  add("Show &Folder", [](const QFileInfo& file) { return QUrl::fromLocalFile(file.path()); });
+  saved_->hide();
+  bar_->Flow().AddWidget(saved_);
+}
+
+void PreviewWidget::ShowSaved(const QString& file) {
+  if (!file.isEmpty()) file_ = file;
+  constexpr int kLongestName = 260;
+  const QString name = QFileInfo(file_).fileName();
+  savedAs_->setText("Saved as " + savedAs_->fontMetrics().elidedText(name, Qt::ElideMiddle, kLongestName));
+  if (!file.isEmpty()) saved_->show();
+}
+
+void PreviewWidget::AddToBar(QWidget& widget) {
+  bar_->Flow().AddWidget(&widget);
 }
 
 void PreviewWidget::BuildZoomButton() {
@@ -131,7 +174,10 @@ void PreviewWidget::BuildZoomButton() {
 }
 
 void PreviewWidget::Follow(Aspect aspect) {
-  if (aspect == Aspect::Pages) canvas_->Show(&preview_->Pages());
+  if (aspect == Aspect::Pages) {
+    canvas_->Show(&preview_->Pages());
+    saved_->hide();
+  }
   if (aspect == Aspect::Pages || aspect == Aspect::State) {
     canvas_->SetZoom(preview_->Choice(), preview_->Zoom());
     if (canvas_->CurrentPage() != preview_->CurrentPage()) canvas_->GoToPage(preview_->CurrentPage());
@@ -152,6 +198,10 @@ void PreviewWidget::FollowBar() {
   page_->setRange(count > 0 ? 1 : 0, count);
   page_->setValue(current);
   count_->setText(QString("of %1").arg(count));
+  const int surplus = preview_->SurplusRows();
+  surplus_->setText(surplus == 1 ? QString("1 row has no room on the form")
+                                 : QString("%1 rows have no room on the form").arg(surplus));
+  surplus_->setVisible(surplus > 0);
   zoom_->setText(ZoomText());
   first_->setEnabled(current > 1);
   previous_->setEnabled(current > 1);

@@ -22,10 +22,14 @@ class PreviewWidget : public QFrame {
   PreviewWidget(Preview& preview, QWidget* parent);
   Binding* Bound() const { return binding_; }
   const PageCanvas& Canvas() const { return *canvas_; }
+  /// Adds a widget of the form's at the right end of the bar.
+  void AddToBar(QWidget& widget);
 
  private:
   QPushButton* AddTool(const char* icon, const QString& name, const std::function<void(Preview&)>& action);
   void BuildBar();
+  void BuildSaved();
+  void ShowSaved(const QString& file);
   void BuildZoomButton();
   void Follow(Aspect aspect);
   void FollowBar();
@@ -40,9 +44,13 @@ class PreviewWidget : public QFrame {
   Binding* binding_;
   QSpinBox* page_ = nullptr;
   QLabel* count_ = nullptr;
+  QLabel* surplus_ = nullptr;  ///< how many rows the forms have no room for
   QPushButton* zoom_ = nullptr;
   QPushButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
   QPushButton *print_ = nullptr, *save_ = nullptr;
+  QWidget* saved_ = nullptr;
+  QLabel* savedAs_ = nullptr;
+  QString file_;  ///< the PDF saved last
 };
 
 /// Registers the widget of the preview.

@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QScopedValueRollback>
@@ -15,18 +14,18 @@
 #include <QWindow>
 
 #include "core/RuntimeError.h"
+#include "core/FileNames.h"
 #include "forms/Form.h"
 #include "ui/AltKeys.h"
 #include "ui/Convert.h"
-#include "ui/FormWindow.h"
-#include "ui/HelpViewer.h"
 #include "ui/PreviewWidget.h"
 
 namespace norvane::ui {
 namespace {
 
 constexpr int kAppearMilliseconds = 250;
-constexpr int kSearchMilliseconds = 1000;  // letters typed within this time make one word to search for
+constexpr int kNoticeMilliseconds = 250;
+constexpr int kSearchMilliseconds = 1000;    // letters typed within this time make one word to search for
 
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   switch (buttons) {
@@ -89,13 +88,29 @@ std::filesystem::path HelpPages(const std::filesystem::path& folder) {
 
 }  // namespace
 
-QtDesktop::QtDesktop(const RegionalSettings& settings, Theme theme) {
+QtDesktop::QtDesktop(const RegionalSettings& settings, Theme theme, const std::filesystem::path& folder)
+    : systemIsDark_(IsDark(*qApp)),
+      folder_(folder),
+      memory_(folder.empty() ? folder : folder / kSettingsFile),
+      convert_(settings, *this),
+      services_{.factory = widgets_,
+                .focus = focus_,
+                .memory = memory_,
+                .help = [this](const Form& form) { ShowHelpOf(form); },
+                .chooseTheme = [this](Theme chosen) { ChooseTheme(chosen); }} {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setKeyboardInputInterval(kSearchMilliseconds);
-  ApplyTheme(*qApp, theme);
+  const Theme chosen = memory_.ChosenTheme();
+  const Theme first = chosen == Theme::System ? theme : chosen;
+  ApplyTheme(*qApp, first == Theme::Dark || (first == Theme::System && systemIsDark_));
   KeepAltFromTyping(*qApp);
-  RegisterStandardWidgets(widgets_, settings);
+  RegisterStandardWidgets(widgets_, {.convert = convert_, .clock = *this, .memory = memory_});
   RegisterPreview(widgets_);
+}
+
+void QtDesktop::ChooseTheme(Theme theme) {
+  memory_.KeepTheme(theme);
+  ApplyTheme(*qApp, theme == Theme::Dark || (theme == Theme::System && systemIsDark_));
 }
 
 QtDesktop::~QtDesktop() {
@@ -135,14 +150,27 @@ void QtDesktop::FormShown(Form& form) {
   focus_.Forget();
   FormWindow*& window = windows_[&form];
   const bool isNew = !window;
-  if (isNew) window = new FormWindow(form, widgets_, focus_);
-  FormWindow* owner = form.Owner() ? WindowOf(*form.Owner()) : nullptr;
+  if (isNew) window = new FormWindow(form, services_);
   // A window that its owner shows while the owner is still loading comes up with the owner, since there is no window
   // yet to stay above.
-  if (form.Owner() && !owner && !form.Style().goesWithOwner) return;
-  window->Present(owner);
-  if (isNew && form.Style().goesWithOwner) LetAppear(*window);
-  if (isNew) PresentOwned(*window);
+  if (form.Owner() && !WindowOf(*form.Owner()) && !form.Style().goesWithOwner) return;
+  const bool isPassing = form.Style().notice && !form.IsModal();
+  if (isPassing) notices_[form.Name()].start();
+  isPassing && !slowNotices_.contains(form.Name()) ? ShowLater(form, *window) : ShowWindow(form, *window, isNew);
+}
+
+void QtDesktop::ShowWindow(Form& form, FormWindow& window, bool isNew) {
+  window.Present(form.Owner() ? WindowOf(*form.Owner()) : nullptr);
+  if (isNew && form.Style().goesWithOwner) LetAppear(window);
+  if (isNew) PresentOwned(window);
+}
+
+/// A notice that would be gone at once isn't shown. Work that leaves the event loop no time to show it late has its
+/// notice shown early the next time.
+void QtDesktop::ShowLater(Form& form, FormWindow& window) {
+  QTimer::singleShot(kNoticeMilliseconds, &window, [this, &form, &window] {
+    if (window.Model() && form.IsVisible() && !window.isVisible()) ShowWindow(form, window, true);
+  });
 }
 
 void QtDesktop::PresentOwned(FormWindow& owner) {
@@ -165,6 +193,8 @@ void QtDesktop::LetAppear(QWidget& window) {
 void QtDesktop::FormHidden(Form& form) {
   focus_.Forget();
   if (FormWindow* window = WindowOf(form)) window->Withdraw();
+  const auto notice = notices_.find(form.Name());
+  if (notice != notices_.end() && notice->second.elapsed() >= kNoticeMilliseconds) slowNotices_.insert(form.Name());
   if (const auto found = modal_.find(&form); found != modal_.end()) found->second->quit();
 }
 
@@ -249,6 +279,15 @@ void QtDesktop::ShowHelp(const std::filesystem::path& folder) {
   help_->showMaximized();
   help_->raise();
   help_->activateWindow();
+}
+
+void QtDesktop::ShowHelpOf(const Form& form) {
+  try {
+    ShowHelp(folder_ / kHelpFolder);
+    help_->GoToPageOf(ToQt(form.Name()));
+  } catch (const RuntimeError& missing) {
+    Say(missing.Text());
+  }
 }
 
 std::filesystem::path QtDesktop::DocumentsFolder() const {

@@ -71,22 +71,21 @@ void IgnoreStrayWheel(QWidget& widget) {
   });
 }
 
-void RegisterStandardWidgets(WidgetFactory& factory, const RegionalSettings& settings) {
+void RegisterStandardWidgets(WidgetFactory& factory, const WidgetServices& services) {
   factory.Register<Label>(MakeLabel);
   factory.Register<TextBox>(MakeTextBox);
-  factory.Register<MaskedBox>(MakeMaskedBox);
+  factory.Register<MaskedBox>(
+      [&clock = services.clock](MaskedBox& box, QWidget* parent) { return MakeMaskedBox(box, parent, clock); });
   factory.Register<Button>(MakeButton);
   factory.Register<OptionButton>(MakeOptionButton);
   factory.Register<ComboBox>(MakeComboBox);
-  factory.Register<DatePicker>([format = ToQt(settings.shortDate)](DatePicker& picker, QWidget* parent) {
-    return MakeDatePicker(picker, parent, format);
-  });
+  factory.Register<DatePicker>(MakeDatePicker);
   factory.Register<MonthView>(MakeMonthView);
   factory.Register<Picture>(MakePicture);
   factory.Register<StatusBar>(MakeStatusBar);
   factory.Register<TabControl>(MakeTabs);
   factory.Register<Grid>(
-      [settings](Grid& grid, QWidget* parent) { return (new GridView(grid, parent, settings))->Bound(); });
+      [services](Grid& grid, QWidget* parent) { return (new GridView(grid, parent, services))->Bound(); });
 }
 
 }  // namespace norvane::ui

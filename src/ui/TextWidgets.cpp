@@ -1,15 +1,16 @@
 #include <algorithm>
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QStyle>
 
+#include "core/MaskText.h"
+#include "ui/Apostrophe.h"
 #include "ui/Convert.h"
 #include "ui/EventFilter.h"
 #include "ui/StandardWidgets.h"
-#include "ui/Theme.h"
 
 namespace norvane::ui {
 namespace {
@@ -26,6 +27,28 @@ void CloseMaskPlace(MaskedBox& box, QLineEdit& widget) {
   widget.setCursorPosition((place + 1) * kPlace);
 }
 
+/// The day that the box shows, today unless it shows one.
+Date DayOf(const MaskedBox& box, const Clock& clock) {
+  constexpr int kLastOfThisCentury = 49;
+  const QStringList parts = ToQt(box.Text()).split('/');
+  const int year = parts.value(2).toInt();
+  const QDate day((year > kLastOfThisCentury ? 1900 : 2000) + year, parts.value(0).toInt(), parts.value(1).toInt());
+  return day.isValid() ? FromQt(day) : clock.Today();
+}
+
+/// A slash closes a place; "t" is today, "+" and "-" are the day after and before.
+bool UseDateKey(const QString& key, MaskedBox& box, QLineEdit& widget, const Clock& clock) {
+  if (key == "/") {
+    CloseMaskPlace(box, widget);
+    return true;
+  }
+  const bool isToday = key.compare("t", Qt::CaseInsensitive) == 0;
+  if (!isToday && key != "+" && key != "-") return false;
+  const Date day = isToday ? clock.Today() : Date(DayOf(box, clock).Day() + (key == "+" ? 1 : -1));
+  box.UserType(MaskedDateText(day));
+  return true;
+}
+
 }  // namespace
 
 Binding* MakeLabel(Label& label, QWidget* parent) {
@@ -33,19 +56,20 @@ Binding* MakeLabel(Label& label, QWidget* parent) {
   widget->setTextFormat(Qt::PlainText);
   return new Binding(label, *widget, [&label, widget](Aspect) {
     widget->setText(ToQt(label.Caption()));
-    QPalette palette = QApplication::palette();
-    palette.setColor(QPalette::WindowText, Colours::Of(palette).Map(label.ForeColor()));
-    widget->setPalette(palette);
+    widget->setProperty("red", label.ForeColor() == Colour::Red);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
   });
 }
 
 Binding* MakeTextBox(TextBox& box, QWidget* parent) {
   auto* widget = new QLineEdit(parent);
   widget->setMinimumWidth(WidthOf(*widget, box.Style().characters));
+  TypeApostrophes(*widget);
   if (box.Style().rightAligned) widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* binding = new Binding(box, *widget, [&box, widget](Aspect) {
     if (widget->text() == ToQt(box.Text())) return;
-    widget->setText(ToQt(box.Text()));
+    ShowStored(*widget, ToQt(box.Text()));
     if (!widget->hasFocus()) widget->setCursorPosition(0);
   });
   QObject::connect(widget, &QLineEdit::textEdited, binding,
@@ -53,7 +77,7 @@ Binding* MakeTextBox(TextBox& box, QWidget* parent) {
   return binding;
 }
 
-Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent) {
+Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent, const Clock& clock) {
   auto* widget = new QLineEdit(parent);
   widget->setInputMask("99/99/99;_");
   widget->setFixedWidth(WidthOf(*widget, 8));
@@ -62,14 +86,13 @@ Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent) {
   });
   QObject::connect(widget, &QLineEdit::textEdited, binding,
                    [&box, widget] { box.UserType(FromQt(widget->displayText())); });
-  new EventFilter(*widget, [&box, widget, bound = QPointer<Binding>(binding)](QEvent& event) {
+  new EventFilter(*widget, [&box, &clock, widget, bound = QPointer<Binding>(binding)](QEvent& event) {
     if (event.type() == QEvent::FocusIn) {
       QMetaObject::invokeMethod(
           widget, [widget] { widget->home(false); }, Qt::QueuedConnection);
     }
-    if (event.type() != QEvent::KeyPress || !bound || static_cast<QKeyEvent&>(event).text() != "/") return false;
-    CloseMaskPlace(box, *widget);
-    return true;
+    if (event.type() != QEvent::KeyPress || !bound) return false;
+    return UseDateKey(static_cast<QKeyEvent&>(event).text(), box, *widget, clock);
   });
   return binding;
 }

@@ -94,7 +94,8 @@ QString StyleSheetOf(const Colours& c, bool dark) {
   const std::pair<const char*, QColor> names[] = {
       {"@window", c.window}, {"@surface", c.surface}, {"@band", c.band},         {"@text", c.text},
       {"@muted", c.muted},   {"@line", c.line},       {"@edge", c.edge},         {"@accent", c.accent},
-      {"@hover", c.hover},   {"@current", c.current}, {"@onaccent", c.onAccent},
+      {"@hover", c.hover},   {"@current", c.current}, {"@onaccent", c.onAccent}, {"@red", c.red},
+      {"@idle", c.idle},
   };
   for (const auto& [name, colour] : names) sheet.replace(QLatin1String(name) + ";", colour.name() + ";");
   return sheet.replace("@scheme", dark ? "dark" : "light");
@@ -103,14 +104,38 @@ QString StyleSheetOf(const Colours& c, bool dark) {
 }  // namespace
 
 const Colours& Colours::Light() {
-  static const Colours colours{"#f4f6f8", "#ffffff", "#eceff3", "#1d2733", "#5f6c7b", "#dbe0e6",
-                               "#b4bdc8", "#17686f", "#ffffff", "#d9ecee", "#e3e8ed", "#c1272d"};
+  static const Colours colours{.window = "#f4f6f8",
+                               .surface = "#ffffff",
+                               .band = "#eceff3",
+                               .stripe = "#f7f9fa",
+                               .text = "#1d2733",
+                               .muted = "#5f6c7b",
+                               .line = "#cdd4dc",
+                               .edge = "#7c8896",
+                               .accent = "#17686f",
+                               .onAccent = "#ffffff",
+                               .current = "#bfe0e3",
+                               .idle = "#dfe4ea",
+                               .hover = "#e3e8ed",
+                               .red = "#b3232a"};
   return colours;
 }
 
 const Colours& Colours::Dark() {
-  static const Colours colours{"#20252b", "#181c21", "#282e35", "#e4e8ec", "#9aa5b1", "#373e47",
-                               "#56606b", "#56b8c2", "#10262a", "#21474c", "#323941", "#ff7b72"};
+  static const Colours colours{.window = "#20252b",
+                               .surface = "#181c21",
+                               .band = "#282e35",
+                               .stripe = "#1c2126",
+                               .text = "#e4e8ec",
+                               .muted = "#9aa5b1",
+                               .line = "#3f4751",
+                               .edge = "#737e8a",
+                               .accent = "#56b8c2",
+                               .onAccent = "#10262a",
+                               .current = "#1d4a50",
+                               .idle = "#323a43",
+                               .hover = "#323941",
+                               .red = "#ff8a82"};
   return colours;
 }
 
@@ -118,9 +143,11 @@ const Colours& Colours::Of(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < 128 ? Dark() : Light();
 }
 
-void ApplyTheme(QApplication& application, Theme theme) {
-  const bool systemIsDark = application.palette().color(QPalette::Window).lightness() < 128;
-  const bool dark = theme == Theme::Dark || (theme == Theme::System && systemIsDark);
+bool IsDark(const QApplication& application) {
+  return application.palette().color(QPalette::Window).lightness() < 128;
+}
+
+void ApplyTheme(QApplication& application, bool dark) {
   const Colours& colours = dark ? Colours::Dark() : Colours::Light();
   application.setStyle(QStyleFactory::create("Fusion"));
   application.setPalette(PaletteOf(colours));

@@ -5,8 +5,6 @@
 #include <QColor>
 #include <QPalette>
 
-#include "forms/Controls.h"
-
 class QApplication;
 class QFont;
 class QIcon;
@@ -17,21 +15,30 @@ namespace norvane::ui {
 
 enum class Theme { System, Light, Dark };
 
-/// The colours of one theme. Everything drawn takes its colours from here.
+/// The size for which icons are drawn, in pixels.
+inline constexpr int kIconSize = 24;
+
+/// The colours of one theme. Everything drawn takes its colours from here. `edge`, the frames of fields, and `accent`,
+/// the focus, have a contrast of 3:1 or more against what is around them, texts of 4.5:1.
 struct Colours {
-  QColor window, surface, band, text, muted, line, edge, accent, onAccent, current, hover, red;
+  QColor window, surface, band;
+  QColor stripe;  ///< every second row of a list
+  QColor text, muted, line, edge, accent, onAccent;
+  QColor current;  ///< the current row with the focus
+  QColor idle;     ///< and without
+  QColor hover, red;
 
   static const Colours& Light();
   static const Colours& Dark();
   /// The theme of a palette, recognised by the lightness of its window.
   static const Colours& Of(const QPalette& palette);
-  /// A model's colour, readable on this theme's window.
-  QColor Map(Colour colour) const { return colour == Colour::Red ? red : text; }
 };
 
-/// Sets the application's style, palette, font and style sheet. `System` takes light or dark from the platform's
-/// palette.
-void ApplyTheme(QApplication& application, Theme theme);
+/// Whether the palette in force is dark: before the first ApplyTheme, the platform's.
+bool IsDark(const QApplication& application);
+
+/// Sets the application's style, palette, font and style sheet.
+void ApplyTheme(QApplication& application, bool dark);
 
 /// A picture of resources/icons in the palette's text colour, at any size. Empty if there is none of that name.
 QIcon NamedIcon(const std::string& name);

@@ -3,11 +3,13 @@
 #include <functional>
 #include <vector>
 
-#include "core/RegionalSettings.h"
+#include "core/Conversions.h"
 #include "forms/Control.h"
 #include "ui/Binding.h"
 
 namespace norvane::ui {
+
+class WindowMemory;
 
 /// Makes the widget of a control by the control's class.
 class WidgetFactory {
@@ -31,8 +33,14 @@ class WidgetFactory {
   std::vector<Maker<Control>> makers_;
 };
 
-/// Registers the controls of forms/Controls.h and the grid. Dates are shown in the region's short form;
-/// grids recognise amounts and dates as the region writes them.
-void RegisterStandardWidgets(WidgetFactory& factory, const RegionalSettings& settings);
+/// What the widgets of grids and dates work with.
+struct WidgetServices {
+  const Conversions& convert;  ///< the region's
+  const Clock& clock;
+  WindowMemory& memory;  ///< keeps the widths of columns
+};
+
+/// Registers the controls of forms/Controls.h and the grid. The services must outlive the factory.
+void RegisterStandardWidgets(WidgetFactory& factory, const WidgetServices& services);
 
 }  // namespace norvane::ui

@@ -1,7 +1,7 @@
 #include <QAction>
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -45,13 +45,36 @@ TEST_F(Controls, AMaskedBoxKeepsItsSlashes) {
   EXPECT_EQ(Demo().txtSince.Text(), "01/12/26") << "a lone digit gets its zero";
 }
 
-TEST_F(Controls, APickerShowsItsDayAndTellsAnother) {
-  auto& picker = Of<QDateEdit>(Demo().DTSince);
-  EXPECT_EQ(picker.date(), QDate(2026, 11, 22));
-  picker.setFocus();
-  Key(Qt::Key_Up);  // in the month
-  EXPECT_EQ(Demo().DTSince.Value(), Date::FromYearMonthDay(2026, 12, 22));
-  EXPECT_THAT(Log(), testing::EndsWith("DTSince_Change"));
+TEST_F(Controls, APickerIsAButtonInItsBoxThatOpensACalendar) {
+  QWidget& picker = Of(Demo().DTSince);
+  EXPECT_EQ(picker.parentWidget(), &Of(Demo().txtSince));
+  Click(Demo().DTSince);
+  auto* calendar = picker.findChild<QCalendarWidget*>();
+  ASSERT_TRUE(calendar && calendar->isVisible());
+  EXPECT_EQ(calendar->selectedDate(), QDate(2026, 11, 22));
+  emit calendar->clicked(QDate(2026, 12, 24));
+  EXPECT_EQ(Demo().DTSince.Value(), Date::FromYearMonthDay(2026, 12, 24));
+  EXPECT_THAT(Log(), testing::EndsWith("+DTSince DTSince_Change"));
+  QTest::keyClick(&picker, Qt::Key_Down);
+  EXPECT_EQ(Demo().DTSince.Value(), Date::FromYearMonthDay(2026, 12, 23));
+}
+
+TEST_F(Controls, AnApostropheTypedOrPastedIsTypographicAStoredOneStays) {
+  Demo().txtFirst.SetText("O'Hara");
+  EXPECT_EQ(Of<QLineEdit>(Demo().txtFirst).text(), "O'Hara");
+  QApplication::clipboard()->setText("D'Arcy");
+  Demo().txtLast.SetFocus();
+  Type("O'");
+  Of<QLineEdit>(Demo().txtLast).paste();
+  EXPECT_EQ(Demo().txtLast.Text(), "O\u2019D\u2019Arcy");
+}
+
+TEST_F(Controls, KeysPressTheButtonsOfTheirRoles) {
+  Demo().txtFirst.SetFocus();
+  Log();
+  Key(Qt::Key_S, Qt::ControlModifier);
+  Key(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(Log(), "-txtFirst +btnSave btnSave_Click -btnSave +btnPrint btnPrint_Click");
 }
 
 TEST_F(Controls, ACombosPickRaisesChangeThenClick) {
@@ -141,7 +164,7 @@ TEST_F(Controls, AMenuEntryMovesNoFocus) {
 }
 
 TEST_F(Controls, WidgetsFollowWhatTheirControlsAre) {
-  EXPECT_EQ(Of(Demo().btnSave).toolTip(), "Save the record");
+  EXPECT_EQ(Of(Demo().btnSave).toolTip(), "Save the record (Ctrl+S)");
   EXPECT_EQ(Of(Demo().btnSave).accessibleName(), "Save the record");
   EXPECT_EQ(Of(Demo().txtFirst).accessibleName(), "First");
   EXPECT_EQ(Of(Demo().lblBalance).palette().color(QPalette::WindowText), Colours::Light().red);

@@ -13,7 +13,7 @@ class DemoForm : public Form {
   static constexpr const char* kName = "DemoForm";
   explicit DemoForm(Program& owner) : Form(owner, kName, {.caption = "Demo", .width = 9000, .height = 9300}) {
     SetLayout(layout::Column({
-        layout::Strip({btnSave, btnDelete, layout::Line(), btnPrint, layout::Space(), lblBalance, btnExit}),
+        layout::Strip({btnSave, btnDelete, btnPrint, layout::Space(), lblBalance, btnExit}),
         layout::Row({layout::Group(
             "Address", layout::Fields({layout::Field("&First:", txtFirst), layout::Field("&Last:", txtLast),
                                        layout::Field("&Amount:", txtAmount), layout::Field("&Terms:", cmbTerms)},

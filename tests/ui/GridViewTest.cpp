@@ -184,6 +184,56 @@ TEST_F(GridInWindow, LettersLookForARowOfAList) {
   EXPECT_EQ(form.Names.Col(), 2);
 }
 
+TEST_F(GridInWindow, EnterIsRefusedWhileNoRowMatchesTheWordTyped) {
+  program.screens.Add<NamesForm>();
+  program.screens.Show(NamesForm::kName);
+  auto& form = program.screens.Touch<NamesForm>();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(desktop.WindowOf(form)));
+  int enters = 0;
+  form.Names.KeyPress = [&](int code) { enters += code == static_cast<int>(norvane::Key::Enter); };
+  Type("dax");
+  EXPECT_EQ(form.Names.Cell(form.Names.Row(), 1), "van Dam") << "the last row that matched, by a later word";
+  Key(Qt::Key_Return);
+  EXPECT_EQ(enters, 0);
+  Key(Qt::Key_Backspace);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(enters, 1);
+}
+
+TEST_F(GridInWindow, ColumnsStayWhileTheUserWorksInTheGrid) {
+  ClickCell(2, 6);
+  const int before = Table().columnWidth(1);
+  Type("A note much longer than its narrow cell");
+  const auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  EXPECT_GT(field->width(), Table().columnWidth(6));
+  EXPECT_TRUE(Table().viewport()->rect().contains(field->geometry()));
+  Rows().AddItem("\tA much longer name than before");
+  Settle();
+  EXPECT_EQ(Table().columnWidth(1), before);
+}
+
+TEST_F(GridInWindow, DatesAndSumsAreQuickToEnter) {
+  Rows().SetColDataType(1, ColumnType::Date);
+  Rows().SetCell(2, 3, "8");
+  ClickCell(2, 1);
+  Rows().SetCell(2, 1, "11/30/2026");
+  Type("++-");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Rows().Cell(2, 1), "12/1/2026");
+  ClickCell(3, 1);
+  Key(Qt::Key_Apostrophe, Qt::ControlModifier);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Rows().Cell(3, 1), "12/1/2026") << "the cell above";
+  ClickCell(2, 3);
+  Type("+10");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Rows().Cell(2, 3), "18") << "added to what was there";
+  ClickCell(1, 3);
+  Type("12*3.50");
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(Rows().Cell(1, 3), "42");
+}
+
 TEST(CellTexts, TellFiguresFromDatesUnderTheRegionsSettings) {
   RegionalSettings sweden;
   sweden.currencySymbol = "kr";

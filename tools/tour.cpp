@@ -8,12 +8,14 @@
 #include <vector>
 
 #include <QApplication>
+#include <QPainter>
 #include <QPixmap>
 #include <QTemporaryDir>
 
 #include "app/Composition.h"
 #include "forms/Form.h"
 #include "sample/Sample.h"
+#include "tour/Offscreen.h"
 #include "tour/Paper.h"
 #include "tour/Stops.h"
 #include "tour/TourDesktop.h"
@@ -52,24 +54,40 @@ struct Target {
   fs::path paper;
 };
 
+/// The window with the menus, lists and tips that are open above it.
+QPixmap Picture(QWidget& window) {
+  std::vector<QWidget*> parts{&window};
+  for (QWidget* other : QApplication::topLevelWidgets()) {
+    const bool isAbove = other->windowType() == Qt::Popup || other->windowType() == Qt::ToolTip;
+    if (isAbove && other->isVisible()) parts.push_back(other);
+  }
+  QRect all;
+  for (const QWidget* part : parts) all |= part->geometry();
+  QPixmap picture(all.size());
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  for (QWidget* part : parts) painter.drawPixmap(part->geometry().topLeft() - all.topLeft(), part->grab());
+  return picture;
+}
+
 void Save(QWidget& window, const fs::path& file) {
-  if (!window.grab().save(QString::fromStdString(file.string())))
+  if (!Picture(window).save(QString::fromStdString(file.string())))
     throw std::runtime_error("can't write " + file.string());
 }
 
 /// Draws the stop's screen; returns the problem found, empty if there is none.
 std::string Photograph(const Stop& stop, ui::Theme theme, const fs::path& data, const Target& target) {
   Visit visit(stop, theme, Date(sample::ToDay(kDay) + kMorning), data);
-  return visit.Make([&](Form& form, ui::FormWindow& window) {
+  return visit.Make([&](Form& form, QWidget& window) {
     const std::string picture(stop.picture);
     visit.Settle();
     Save(window, target.screens / (picture + ".png"));
-    if (form.Style().resizable) {
+    if (stop.shot == Stop::Shot::Screen && form.Style().resizable) {
       window.resize(window.width() * 3 / 2, window.height() * 7 / 5);
       visit.Settle();
       Save(window, target.screens / (picture + "-enlarged.png"));
     }
-    WritePaper(form, target.paper, picture);
+    if (stop.shot == Stop::Shot::Screen) WritePaper(form, target.paper, picture);
   });
 }
 
@@ -101,7 +119,11 @@ std::vector<std::string> Unseen(const Program& program) {
 
 int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::string_view>& wanted) {
   const QTemporaryDir data;
+  const QTemporaryDir empty;
   const fs::path dataFolder = data.path().toStdString();
+  const fs::path emptyFolder = empty.path().toStdString();
+  fs::create_directory_symlink(NORVANES_HELP, dataFolder / "help");
+  fs::copy_file(delivered, emptyFolder / "norvane.mdb");
   sample::WriteSample(delivered, dataFolder / "norvane.mdb", {.size = {}, .seed = 1, .today = sample::ToDay(kDay)});
 
   TourDesktop desktop(ui::Theme::Light, Date(sample::ToDay(kDay)));
@@ -114,7 +136,8 @@ int Run(const fs::path& delivered, const fs::path& folder, const std::set<std::s
   for (const auto& [theme, name] : kThemes) {
     fs::create_directories(folder / name);
     for (const Stop* stop : stops) {
-      const std::string problem = Photograph(*stop, theme, dataFolder, {folder / name, folder / kPaper});
+      const std::string problem =
+          Photograph(*stop, theme, stop->isEmpty ? emptyFolder : dataFolder, {folder / name, folder / kPaper});
       if (problem.empty()) continue;
       ++problems;
       std::fprintf(stderr, "%s (%s): %s\n", std::string(stop->picture).c_str(), name, problem.c_str());
@@ -136,7 +159,8 @@ int main(int argc, char** argv) {
     std::fputs(kUsage, stderr);
     return 2;
   }
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qunsetenv("QT_QPA_PLATFORM");
+  const Offscreen offscreen;
   qInstallMessageHandler(LeaveOutThePlatformsRemarks);
   QApplication application(argc, argv);
   try {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/AccessibleNames.h"
 #include "app/Composition.h"
 #include "app/CutOffText.h"
 #include "forms/Form.h"
@@ -11,45 +12,61 @@
 namespace norvane {
 namespace {
 
-constexpr auto kDay = std::chrono::year{2025} / 10 / 17;
+const Date kDay(sample::ToDay(std::chrono::year{2025} / 10 / 17));
 
-/// The screens of the program over a small business.
-class RealScreens : public testing::TestWithParam<ui::Theme> {
+/// The screens of the program over the sample business.
+class RealScreens : public testing::Test {
  protected:
   RealScreens() {
     const auto delivered = database.Folder() / "delivered.mdb";
     std::filesystem::rename(database.File(), delivered);
     sample::WriteSample(delivered, database.File(),
-                        {.size = {.clients = 60, .invoices = 300, .lines = 900, .items = 40, .payments = 150},
-                         .seed = 1,
-                         .today = sample::ToDay(kDay)});
+                        {.size = {}, .seed = 1, .today = static_cast<sample::Day>(kDay.Day())});
   }
+
+  /// Calls `look` with each screen in its window.
+  template <class Look>
+  void VisitAll(ui::Theme theme, Look look) {
+    for (const tour::Stop* stop : Stops()) {
+      if (stop->shot != tour::Stop::Shot::Screen || stop->isEmpty) continue;
+      SCOPED_TRACE(std::string(stop->picture) + (theme == ui::Theme::Dark ? ", dark" : ""));
+      tour::Visit visit(*stop, theme, kDay, database.Folder());
+      const std::string problem = visit.Make([&](Form& form, QWidget& window) {
+        visit.Settle();
+        look(visit, form, window);
+      });
+      EXPECT_EQ(problem, "");
+    }
+  }
+
+  test::Database database;
+
+ private:
   std::vector<const tour::Stop*> Stops() {
-    tour::TourDesktop desktop(GetParam(), Date(sample::ToDay(kDay)));
+    tour::TourDesktop desktop(ui::Theme::Light, kDay);
     Program program(desktop, {}, database.Folder());
     Compose(program);
     return tour::StopsOf(program);
   }
-
-  test::Database database;
 };
 
-TEST_P(RealScreens, CutOffNoTextAtTheirFirstAndTheirSmallestSize) {
-  for (const tour::Stop* stop : Stops()) {
-    tour::Visit visit(*stop, GetParam(), Date(sample::ToDay(kDay)), database.Folder());
-    const std::string problem = visit.Make([&](Form& form, ui::FormWindow& window) {
-      visit.Settle();
-      EXPECT_THAT(test::CutOffTexts(window), testing::IsEmpty()) << stop->picture << " at its first size";
+TEST_F(RealScreens, CutOffNoTextAtTheirFirstAndTheirSmallestSize) {
+  for (const ui::Theme theme : {ui::Theme::Light, ui::Theme::Dark}) {
+    VisitAll(theme, [](tour::Visit& visit, Form& form, QWidget& window) {
+      EXPECT_THAT(test::CutOffTexts(window), testing::IsEmpty()) << "at its first size";
       if (!form.Style().resizable) return;
       window.resize(window.minimumSizeHint());
       for (int i = 0; i < 3; ++i) visit.Settle();
-      EXPECT_THAT(test::CutOffTexts(window), testing::IsEmpty()) << stop->picture << " at its smallest size";
+      EXPECT_THAT(test::CutOffTexts(window), testing::IsEmpty()) << "at its smallest size";
     });
-    EXPECT_EQ(problem, "") << stop->picture;
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Themes, RealScreens, testing::Values(ui::Theme::Light, ui::Theme::Dark));
+TEST_F(RealScreens, GiveAssistiveToolsNamesRolesAndValues) {
+  VisitAll(ui::Theme::Light, [](tour::Visit&, Form&, QWidget& window) {
+    EXPECT_THAT(test::InaccessibleParts(window), testing::IsEmpty());
+  });
+}
 
 }  // namespace
 }  // namespace norvane

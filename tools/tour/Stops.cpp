@@ -22,6 +22,12 @@ const Step kOrdering{Choose, "Customer", "mnuOrdering"};
 const std::vector<Stop>& Stops() {
   static const std::vector<Stop> stops{
       {"clients", "Customer", {kClient}},
+      {"clients-menu", "Customer", {kClient, {Open, "Customer", "mnuEdit"}}},
+      {"clients-typed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "be"}}},
+      {"clients-missed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "zq"}}},
+      {"question", "Customer", {kClient, {Choose, "Customer", "mnuDelete"}}, Stop::Shot::Box},
+      {"help", "Customer", {{Choose, "Customer", "mnuContents"}}, Stop::Shot::Help},
+      {"empty", "Customer", {}, Stop::Shot::Screen, true},
       {"splash", "intro", {{Show, "intro"}}},
       {"about", "About", {{Choose, "Customer", "mnuAbout"}}},
 
@@ -31,11 +37,17 @@ const std::vector<Stop>& Stops() {
       {"profile-new", "Profile", {{Press, "Customer", "btnNewCust"}}},
 
       {"sales", "CustInvoices", {kSales}},
+      {"sales-list-open", "CustInvoices", {kSales, {Open, "CustInvoices", "CmbInvoice"}}},
+      {"sales-calendar", "CustInvoices", {kSales, {Open, "CustInvoices", "DTPicker1"}}},
       {"invoice", "InvoiceDetail", {kSales, kInvoice}},
+      {"invoice-edit", "InvoiceDetail", {kSales, kInvoice, {Edit, "InvoiceDetail", "ItemList", 2, 3, "12*2"}}},
       {"invoice-new", "InvoiceDetail", {kClient, {Press, "Customer", "btnNewInvoice"}}},
       {"item-picker", "InvSearch", {kSales, kInvoice, {Press, "InvoiceDetail", "btnNewItem"}}},
 
       {"payments", "Receipts", {kClient, kPayments}},
+      {"payments-edit",
+       "Receipts",
+       {kClient, kPayments, {Edit, "Receipts", "PaymentList", 2, 8, "Paid at the counter, second part"}}},
       {"calendar", "PaymentDate", {kClient, kPayments, {CellButton, "Receipts", "PaymentList", 1, 3}}},
       {"client-picker", "CustSearch", {kClient, kPayments, {CellButton, "Receipts", "PaymentList", 1, 6}}},
 

@@ -14,6 +14,9 @@ struct Step {
     DoubleClick,  ///< a row of a grid
     CellButton,   ///< the button in a cell of a grid
     Tab,          ///< a tab, from 0
+    Edit,         ///< types the text into a cell of a grid
+    Type,         ///< types the text where the focus is
+    Open,         ///< the menu of an entry, the list of a drop-down, the calendar of a date
     Show,         ///< no control: the screen comes up by itself
   };
   Do what;
@@ -21,6 +24,7 @@ struct Step {
   std::string_view control = {};
   int row = 1;  ///< of a grid, -1 for the last; the number of a tab
   int col = 1;
+  std::string_view text = {};
 };
 
 /// A picture to take of a screen, after the steps on a program that has just been started.
@@ -28,6 +32,9 @@ struct Stop {
   std::string_view picture;  ///< file name without ending
   std::string_view screen;
   std::vector<Step> steps;
+  /// What is drawn: the screen, the box that comes up over it, or the help window.
+  enum class Shot { Screen, Box, Help } shot = Shot::Screen;
+  bool isEmpty = false;  ///< a business without records; what it asks for is answered as preselected
 };
 
 /// All pictures, in the order in which a newcomer would meet the screens.

@@ -4,6 +4,9 @@
 #include <string>
 #include <vector>
 
+#include <QApplication>
+#include <QTimer>
+
 #include "forms/Form.h"
 #include "ui/QtDesktop.h"
 
@@ -17,12 +20,22 @@ class TourDesktop : public ui::QtDesktop {
   TourDesktop(ui::Theme theme, Date day) : QtDesktop({}, theme), day_(day) {}
 
   std::function<void(Form&)> modalForm = [](Form&) {};
-  std::vector<std::string> boxes;  ///< texts of the boxes shown
+  /// Takes the boxes that come up, as they are shown. Without it they are recorded and answered unseen.
+  std::function<void(QWidget&)> box;
+  std::vector<std::string> boxes;  ///< texts of the boxes answered unseen
 
   Date Now() const override { return day_; }
   Answer Ask(const Message& message) override {
-    boxes.push_back(message.text);
-    return message.preselected;
+    if (!box) {
+      boxes.push_back(message.text);
+      return message.preselected;
+    }
+    QTimer::singleShot(0, [this] {
+      QWidget* shown = QApplication::activeModalWidget();
+      box(*shown);
+      shown->close();
+    });
+    return QtDesktop::Ask(message);
   }
   void RunModal(Form& form) override {
     modalForm(form);

@@ -23,16 +23,17 @@ class Visit {
 
   /// Does the stop's steps and calls `look` once, with its screen in its window. Returns the problem found, empty if
   /// there is none.
-  std::string Make(std::function<void(Form&, ui::FormWindow&)> look);
+  std::string Make(std::function<void(Form&, QWidget&)> look);
 
   /// Lets the windows take up what has changed.
   void Settle() { desktop_.DoEvents(); }
 
  private:
-  void Look(Form& form);
+  void Do(const Step& step);
+  void Look(Form& form, QWidget* window);
 
   const Stop& stop_;
-  std::function<void(Form&, ui::FormWindow&)> look_;
+  std::function<void(Form&, QWidget&)> look_;
   TourDesktop desktop_;
   Program program_;
   bool seen_ = false;

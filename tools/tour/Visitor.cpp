@@ -42,6 +42,7 @@ void UseGrid(Grid& grid, const Step& step) {
   const int row = step.row < 0 ? grid.Rows() - 1 : step.row;
   if (step.what == Step::Do::CellButton) return grid.PressCellButton(row, step.col);
   grid.UserClick(row, step.col);
+  if (step.what == Step::Do::Edit && grid.BeginEdit()) grid.SetEditText(std::string(step.text));
   if (step.what == Step::Do::DoubleClick) grid.UserDoubleClick(row, step.col);
 }
 

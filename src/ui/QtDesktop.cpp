@@ -19,6 +19,7 @@
 #include "ui/AltKeys.h"
 #include "ui/Convert.h"
 #include "ui/PreviewWidget.h"
+#include "ui/ProgressWidget.h"
 
 namespace norvane::ui {
 namespace {
@@ -106,6 +107,7 @@ QtDesktop::QtDesktop(const RegionalSettings& settings, Theme theme, const std::f
   KeepAltFromTyping(*qApp);
   RegisterStandardWidgets(widgets_, {.convert = convert_, .clock = *this, .memory = memory_});
   RegisterPreview(widgets_);
+  RegisterProgressBar(widgets_);
 }
 
 void QtDesktop::ChooseTheme(Theme theme) {

@@ -13,7 +13,7 @@ Billing::Billing(Program& host)
   const layout::Node which = layout::Column({OptAll, OptClient});
   const layout::Node days = layout::Row({Label1, txtDays, Label2});
   SetLayout(layout::Column({layout::Group(Frame1, layout::Row({which, layout::Space(), days, btnPrint})),
-                            layout::Group("Clients with Balance Due", layout::Stretch(CustList2))}));
+                            layout::Stretch(layout::Group("Clients with Balance Due", layout::Stretch(CustList2)))}));
   OptAll.SetValue(true);
   txtDays.SetText("30");
   btnPrint.Click = [this] { btnPrint_Click(); };

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "core/Characters.h"
+#include "core/FileSystem.h"
 #include "core/WholeFile.h"
 #include "store/internal/Binder.h"
 #include "store/internal/Parser.h"
@@ -15,16 +16,6 @@ namespace {
 
 constexpr std::size_t kMostPrepared = 64;
 constexpr std::size_t kMostTranslations = 1000;
-
-/// The file itself or, as the platform's file names have no case, the one that differs from it in case alone.
-std::filesystem::path Located(const std::filesystem::path& file) {
-  std::error_code error;
-  if (std::filesystem::exists(file, error)) return file;
-  for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), error)) {
-    if (EqualNoCase(entry.path().filename().string(), file.filename().string())) return entry.path();
-  }
-  return file;
-}
 
 /// The mode's write bits count for every user, so a file that was made read-only is not written by root either.
 bool MayBeWritten(mode_t mode) {

@@ -169,4 +169,24 @@ RuntimeError NoServer() {
   return Make(StoreErrorNumber::Refused, "No database server is configured on this machine.");
 }
 
+RuntimeError CouldNotFind(std::string_view file) {
+  return Make(StoreErrorNumber::CouldNotFind, FileNotFound(file).Text());
+}
+
+RuntimeError NotEnoughSpace() {
+  return Make(StoreErrorNumber::NotEnoughSpace, "Not enough space on disk.");
+}
+
+RuntimeError CouldNotUse(std::string_view file) {
+  return Make(StoreErrorNumber::CouldNotUse, FileInUse(file).Text());
+}
+
+RuntimeError DatabaseExists() {
+  return Make(StoreErrorNumber::DatabaseExists, "Database already exists.");
+}
+
+RuntimeError UnrecognizedDatabase(std::string_view file) {
+  return Make(StoreErrorNumber::UnrecognizedDatabase, UnrecognizedFormat(file).Text());
+}
+
 }  // namespace norvane::store::error

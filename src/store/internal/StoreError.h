@@ -23,6 +23,12 @@ enum class StoreErrorNumber : std::int32_t {
   RowIsGone = -2147217864,
   UnknownTable = -2147217865,
   Refused = -2147467259,
+  // Of repair and compaction.
+  CouldNotFind = 3024,
+  NotEnoughSpace = 3026,
+  CouldNotUse = 3045,
+  DatabaseExists = 3204,
+  UnrecognizedDatabase = 3343,
 };
 
 namespace error {
@@ -67,6 +73,13 @@ RuntimeError ReadOnly(std::string cause = {});
 RuntimeError UnrecognizedFormat(std::string_view file, std::string cause = {});
 RuntimeError DiskOrNetwork(std::string cause = {});
 RuntimeError NoServer();
+
+// The same under the numbers that repair and compaction have for it.
+RuntimeError CouldNotFind(std::string_view file);
+RuntimeError NotEnoughSpace();
+RuntimeError CouldNotUse(std::string_view file);
+RuntimeError DatabaseExists();
+RuntimeError UnrecognizedDatabase(std::string_view file);
 
 }  // namespace error
 }  // namespace norvane::store

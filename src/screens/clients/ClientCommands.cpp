@@ -6,6 +6,7 @@
 #include "core/FileNames.h"
 #include "core/Trap.h"
 #include "data/Client.h"
+#include "forms/ActionNames.h"
 #include "forms/Program.h"
 #include "screens/clients/Customer.h"
 #include "screens/sales/Receipts.h"
@@ -50,6 +51,7 @@ void RefreshCustList(Program& program) {
 void DeleteSelectedClient(Program& program) {
   Globals& globals = program.globals;
   if (ConfirmDelete(program.desktop, globals.CurClientName)) {
+    if (program.screens.Has(action::kKeepCopyBeforeDeletion)) program.screens.Run(action::kKeepCopyBeforeDeletion);
     globals.oClient->OpenCn();
     globals.oClient->DeleteClient(globals.CurCustNum);
     globals.oClient->CloseCn();

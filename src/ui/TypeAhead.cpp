@@ -8,6 +8,8 @@ namespace {
 
 constexpr int kShownMilliseconds = 1500;
 constexpr int kMargin = 8;
+constexpr int kPadding = 4;
+constexpr int kScrollBar = 11;  // as wide as the style sheet makes it
 
 }  // namespace
 
@@ -15,6 +17,8 @@ TypeAhead::TypeAhead(QWidget* list) : QLabel(list) {
   setTextFormat(Qt::PlainText);
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setAccessibleName("Search");
+  setMargin(kPadding);
+  setIndent(kPadding);
   away_.setSingleShot(true);
   connect(&away_, &QTimer::timeout, this, &TypeAhead::Forget);
   hide();
@@ -56,7 +60,8 @@ void TypeAhead::Forget() {
 
 void TypeAhead::Place() {
   adjustSize();
-  move(kMargin, parentWidget()->height() - height() - kMargin);
+  const QSize list = parentWidget()->size();
+  move(list.width() - width() - kScrollBar - kMargin, list.height() - height() - kMargin);
   raise();
 }
 

@@ -81,17 +81,20 @@ Object<Recordset> Client::GetClientRS(const std::string& clientName) {
   return List("Client.GetClientRS -", sql::Statement("select * from tb_Client where Lname like '", clientName, "%'"));
 }
 
-void Client::GetClient(std::int32_t custNum) {
+bool Client::GetClient(std::int32_t custNum) {
+  bool exists = false;
   Trapped("Client.GetClient -", [&] {
     const auto row =
         ReadRecord(sql::Statement("select * from tb_Client where CustNum = ", custNum), [this] { Clear(); });
-    if (row->Eof()) {
+    exists = !row->Eof();
+    if (exists) {
+      ReadProperties(*row);
+    } else {
       GetNewCustNum();
       Blank();
-    } else {
-      ReadProperties(*row);
     }
   });
+  return exists;
 }
 
 void Client::Blank() {
@@ -124,8 +127,8 @@ void Client::DeleteClient(std::int32_t custNum) {
   });
 }
 
-void Client::SaveClientAccess(std::int32_t custNum) {
-  Trapped("Client.SaveClientAccess -", [&] {
+bool Client::SaveClientAccess(std::int32_t custNum) {
+  return Trapped("Client.SaveClientAccess -", [&] {
     const std::string insertion = sql::Insert(
         "Insert into tb_client (CustNum,Lname,Fname,Mname,Address1,Address2,City, "
         "State,ZipCode,HomePhone,WorkPhone,CelPhone,Fax,Company,Email,Webpage,Notes,BillLname, "

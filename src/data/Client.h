@@ -36,12 +36,13 @@ class Client : public DataObject {
   /// The whole rows of the clients whose last name begins with `clientName`.
   Object<Recordset> GetClientRS(const std::string& clientName);
   /// Fills the properties. An unknown number, 0 among them, makes this an empty client with the next free number, of
-  /// which nothing is written yet.
-  void GetClient(std::int32_t custNum);
+  /// which nothing is written yet. True if the client exists.
+  bool GetClient(std::int32_t custNum);
   /// Deletes the client, then the payments, the invoices' lines and the invoices. The lines' stock isn't returned.
   void DeleteClient(std::int32_t custNum);
-  /// Saves the properties: deletes the row of `custNum` and inserts one under the property CustNum.
-  void SaveClientAccess(std::int32_t custNum);
+  /// Saves the properties: deletes the row of `custNum` and inserts one under the property CustNum. False after a
+  /// report.
+  bool SaveClientAccess(std::int32_t custNum);
   /// First, middle and last name with a space between each, two where there is no middle name.
   std::string ClientName(std::int32_t custNum);
   /// Saves through the server's procedure and returns -1. Errors go to the caller.

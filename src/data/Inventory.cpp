@@ -101,7 +101,7 @@ void Inventory::DeleteCategory(std::int32_t catNumber) {
 
 std::int32_t Inventory::QtyInStock(std::int32_t itemNumber, std::int32_t currentQuantity, std::int32_t newQuantity) {
   std::int32_t result = 0;
-  Trapped("Inventory.QtyInStock -", [&] {
+  StockCounted = Trapped("Inventory.QtyInStock -", [&] {
     const auto item = ReadToUpdate(sql::Statement("select * from tb_inventory where ItemNum = ", itemNumber));
     if (item->Long("Par") > 0) {
       const std::int32_t left = Minus(item->Long("InStock"), Minus(newQuantity, currentQuantity));

@@ -23,7 +23,8 @@ class Inventory : public DataObject {
   std::int32_t Par = 0;      ///< target stock; above 0 the item's stock is counted
   std::int32_t InStock = 0;  ///< below 0 for a shortage
   std::string Warranty = "0";
-  std::int32_t CatNum = 0;  ///< the category saved last; it has nothing to do with the item
+  bool StockCounted = false;  ///< whether the last QtyInStock came to its end
+  std::int32_t CatNum = 0;    ///< the category saved last; it has nothing to do with the item
 
   /// The items of a category by number.
   Object<Recordset> rsInventory(std::int32_t category);

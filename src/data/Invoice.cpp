@@ -83,8 +83,8 @@ void Invoice::ReadInvoice(const Recordset& row) {
   Terms = row.Text("Terms");
 }
 
-void Invoice::SaveInvoiceAccess(std::int32_t invoiceNum) {
-  Trapped("Invoice.SaveInvoiceAccess -", [&] {
+bool Invoice::SaveInvoiceAccess(std::int32_t invoiceNum) {
+  return Trapped("Invoice.SaveInvoiceAccess -", [&] {
     const std::string insertion = sql::Insert(
         "Insert into tb_Invoice (InvoiceNum,CustNum,[Date],Description,discount,tax,shippingcharge,shippingdate,"
         "shippingtype,trackingnum,interest,SalesRep,Terms) values (",

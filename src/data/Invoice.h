@@ -59,7 +59,8 @@ class Invoice : public DataObject {
   /// free number.
   void GetInvoice(std::int32_t invoiceNum);
   /// Saves the invoice's properties: deletes the row of `invoiceNum` and inserts one under the property InvoiceNum.
-  void SaveInvoiceAccess(std::int32_t invoiceNum);
+  /// False after a report.
+  bool SaveInvoiceAccess(std::int32_t invoiceNum);
   /// Deletes the invoice, returns the stock of its lines item by item, then deletes the lines. A line whose item is
   /// gone ends the deletion there.
   void DeleteInvoice(std::int32_t invoiceNum);

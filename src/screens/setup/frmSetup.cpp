@@ -1,6 +1,7 @@
 #include "screens/setup/frmSetup.h"
 
-#include "core/Val.h"
+#include <utility>
+
 #include "data/cSetup.h"
 #include "screens/setup/PaymentCategories.h"
 #include "screens/setup/ShippingTypes.h"
@@ -26,12 +27,14 @@ frmSetup::frmSetup(Program& host) : Form(host, kName, {.caption = "Setup", .resi
   btnExit.Click = [this] { btnExit_Click(); };
 }
 
-// Filling the boxes counts as a change, so in ordinary use the exit saves. The connection stays open until then.
+// Filling the boxes counts as a change, so in ordinary use the exit saves. The connection stays open until then, or
+// until another screen closes it.
 void frmSetup::Form_Load() {
   Trapped("frmsetup.Form_Load -", [&] {
     const Object<cSetup> company = globals.oSetup;
     company->OpenCn();
-    company->GetCompanyInfo();
+    wasRead_ = company->GetCompanyInfo();
+    if (!wasRead_) return;
     txtCoName.SetText(company->Name);
     txtCoAddress1.SetText(company->Address1);
     txtCoAddress2.SetText(company->Address2);
@@ -47,17 +50,14 @@ void frmSetup::Form_Load() {
 
 void frmSetup::btnExit_Click() {
   Trapped("frmsetup.btnexit_Click -", [&] {
-    if (SetupChanged) {
-      TakeFromControls();
-      globals.oSetup->SaveCompanyInfo();
-      globals.oSetup->CloseCn();
-      SetupChanged = false;
-    }
+    if (std::exchange(SetupChanged, false)) Save();
     Unload();
   });
 }
 
-void frmSetup::TakeFromControls() {
+// Without the company read, a save would replace what is stored with little more than what was typed.
+void frmSetup::Save() {
+  if (!wasRead_) Raise(ErrorNumber::InvalidProcedureCall);
   const Object<cSetup> company = globals.oSetup;
   company->Name = txtCoName.Text();
   company->Address1 = txtCoAddress1.Text();
@@ -68,7 +68,10 @@ void frmSetup::TakeFromControls() {
   company->Phone = txtCoPhone.Text();
   company->Fax = txtCoFax.Text();
   company->WebSite = txtCoWebSite.Text();
-  company->Statetaxrate = Val(txtCoStateTaxRate.Text());
+  company->Statetaxrate = convert.LeadingNumber(txtCoStateTaxRate.Text());
+  company->OpenCn();
+  company->SaveCompanyInfo();
+  company->CloseCn();
 }
 
 }  // namespace norvane

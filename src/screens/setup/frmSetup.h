@@ -28,9 +28,10 @@ class frmSetup : public Form {
  private:
   void Form_Load() override;
   void btnExit_Click();
-  void TakeFromControls();
+  void Save();
 
   bool SetupChanged = false;
+  bool wasRead_ = false;  ///< the boxes hold what is stored
 };
 
 }  // namespace norvane

@@ -13,7 +13,7 @@ namespace {
 struct NoticeTimer {
   int milliseconds = 0;  ///< 0 for no timer
   bool enabled = false;
-  const char* repaints = nullptr;  ///< at its tick the notice goes and this screen is painted anew
+  const char* repaints = nullptr;  ///< at its tick the notice goes and this screen is painted again
 };
 
 struct NoticeKind {
@@ -22,10 +22,15 @@ struct NoticeKind {
   const char* label;
   const char* secondLabel = nullptr;
   NoticeTimer timer = {};
-  bool hasBar = false;  ///< long work shows in it how far it is
+  bool hasBar = false;                                   ///< long work shows in it how far it is
+  std::string (*labelAtLoad)(const Globals&) = nullptr;  ///< replaces `label`
 };
 
 constexpr NoticeTimer kIdleTimer{.milliseconds = 1500, .enabled = false, .repaints = screen::kInvoiceDetail};
+
+std::string LoadingInvoicesLabel(const Globals& globals) {
+  return "Loading Invoices for ... " + globals.CurClientName;
+}
 
 constexpr NoticeKind kNotices[] = {
     {screen::kGettingClients, "Getting Clients", "Getting Clients...", nullptr, kIdleTimer},
@@ -35,13 +40,14 @@ constexpr NoticeKind kNotices[] = {
     {screen::kLoadingClients, "Loading Clients", "Loading Client Data...", nullptr, {1000, true}, true},
     {screen::kLoadingBilling, "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}, true},
     {screen::kCustomerSaved, "Save Client", "Saving Client...", "Updating Client List...", {1000, false}},
-    {screen::kLoadingInvoices, "Loading Invoices", "Loading Invoices..."},
+    {screen::kLoadingInvoices, "Loading Invoices", "Loading Invoices...", nullptr, {}, false, LoadingInvoicesLabel},
 };
 
 class Notice : public Form {
  public:
   Notice(Program& host, const NoticeKind& kind)
       : Form(host, kind.name, {.caption = kind.caption, .resizable = false, .goesWithOwner = true, .notice = true}),
+        kind_(kind),
         Label1(*this, "Label1", kind.label) {
     layout::Nodes labels{Label1};
     if (kind.secondLabel) {
@@ -56,12 +62,10 @@ class Notice : public Form {
     if (kind.timer.milliseconds > 0) MakeTimer(kind.timer);
   }
 
-  Label Label1;
-  std::unique_ptr<Label> Label2;
-  std::unique_ptr<ProgressBar> Bar;
-  std::unique_ptr<Timer> Timer1;
-
  private:
+  void Form_Load() override {
+    if (kind_.labelAtLoad) Label1.SetCaption(kind_.labelAtLoad(globals));
+  }
   void MakeTimer(const NoticeTimer& timer) {
     Timer1 = std::make_unique<Timer>(*this, "Timer1", timer.milliseconds, timer.enabled);
     if (!timer.repaints) return;
@@ -70,31 +74,19 @@ class Notice : public Form {
       if (Form* form = screens.Find(repaints)) form->Refresh();
     };
   }
+
+  const NoticeKind& kind_;
+  Label Label1;
+  std::unique_ptr<Label> Label2;
+  std::unique_ptr<ProgressBar> Bar;
+  std::unique_ptr<Timer> Timer1;
 };
-
-/// Names the client whose invoices are being loaded.
-class LoadingInvoices : public Notice {
- public:
-  using Notice::Notice;
-
- private:
-  void Form_Load() override { Label1.SetCaption("Loading Invoices for ... " + globals.CurClientName); }
-};
-
-template <class Kind>
-void Register(ScreenTable& screens, const NoticeKind& notice) {
-  screens.AddFactory(notice.name, [&notice](Program& program) { return std::make_shared<Kind>(program, notice); });
-}
 
 }  // namespace
 
 void RegisterNotices(ScreenTable& screens) {
   for (const NoticeKind& notice : kNotices) {
-    if (notice.name == std::string_view(screen::kLoadingInvoices)) {
-      Register<LoadingInvoices>(screens, notice);
-    } else {
-      Register<Notice>(screens, notice);
-    }
+    screens.AddFactory(notice.name, [&notice](Program& program) { return std::make_shared<Notice>(program, notice); });
   }
 }
 

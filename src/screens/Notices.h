@@ -4,7 +4,7 @@ namespace norvane {
 
 class ScreenTable;
 
-/// Adds the small screens that stand while a routine works, shown and unloaded by it.
+/// Adds the small screens that a routine shows while it works.
 void RegisterNotices(ScreenTable& screens);
 
 }  // namespace norvane

@@ -18,7 +18,7 @@ struct Caller {
 constexpr Caller kCallers[] = {{PaymentDate::kForReceipts, Receipts::kName, Receipts::kDate},
                                {PaymentDate::kForRegistry, screen::kGL, 2}};
 
-/// Nothing if nobody has opened the calendar yet.
+/// Nothing if no screen has opened the calendar yet.
 const Caller* CallerOf(const Globals& globals) {
   const auto* caller = std::find_if(std::begin(kCallers), std::end(kCallers), [&](const Caller& candidate) {
     return candidate.payDateCaller == globals.PayDateCaller;
@@ -67,7 +67,7 @@ void PaymentDate::PlaceBeside(const Form& caller, const Grid& grid) {
   SetTop(std::max(caller.Top(), std::min(top, lastTop)));
 }
 
-// The flags stand before the focus goes back to the grid, which then treats the row as edited.
+// The flags are set before the focus goes back to the grid, which then treats the row as edited.
 void PaymentDate::PayDate_DateClick(Date date) {
   Trapped("PaymentDate.PayDate_DateClick -", [&] {
     const Caller* caller = CallerOf(globals);

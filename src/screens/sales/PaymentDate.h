@@ -5,7 +5,7 @@
 namespace norvane {
 
 /// The calendar beside a date cell of the payments or of the registry. The day picked goes into the current row of
-/// whoever opened it.
+/// the screen that opened it.
 class PaymentDate : public Form {
  public:
   static constexpr const char* kName = screen::kPaymentDate;

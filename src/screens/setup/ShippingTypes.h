@@ -8,7 +8,7 @@
 namespace norvane {
 
 /// The shipping options that invoices choose from. Service and weight are the key, so a changed charge replaces the row
-/// and a changed service or weight stands in the table beside the old one.
+/// and a changed service or weight adds a row beside the old one.
 class ShippingTypes : public Form {
  public:
   static constexpr const char* kName = screen::kShippingTypes;

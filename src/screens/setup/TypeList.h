@@ -14,7 +14,7 @@ struct TypeListKind {
   const char* name;
   const char* caption;
   const char* heading;
-  Object<Recordset> Globals::*list;  ///< the shared list, read anew after each change
+  Object<Recordset> Globals::*list;  ///< the shared list, read again after each change
   Object<Recordset> (cSetup::*read)();
   void (cSetup::*save)(const std::string&);
   void (cSetup::*remove)(const std::string&);

@@ -4,7 +4,7 @@
 
 namespace norvane {
 
-/// The splash, which tells what is being loaded.
+/// The splash, which says what is being loaded.
 class intro : public Splash {
  public:
   static constexpr const char* kName = screen::kintro;

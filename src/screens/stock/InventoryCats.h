@@ -8,7 +8,7 @@
 
 namespace norvane {
 
-/// The inventory's categories, edited in place and stored at once. Leaving brings the inventory up anew on category 1.
+/// The inventory's categories, edited in place and stored at once. Leaving opens the inventory again, on category 1.
 class InventoryCats : public Form {
  public:
   static constexpr const char* kName = screen::kInventoryCats;

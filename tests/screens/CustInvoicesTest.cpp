@@ -60,8 +60,8 @@ TEST_F(CustInvoicesTest, ListsAllClientsWithoutABalanceAndSelectsAClickedRowsCli
   EXPECT_FALSE(IsOpen("LoadingInvoices"));
   EXPECT_THAT(Numbers(), ElementsAre("1002", "1001"));
   EXPECT_FALSE(Sales().lblBalDue.Visible() || Sales().Label3.Visible());
-  EXPECT_EQ(globals.CurClientName, "Moss, Carl ");
-  EXPECT_EQ(globals.CurCustNum, kAda) << "until a row is clicked";
+  EXPECT_EQ(globals.CurClientName, "Moss, Ada ") << "the invoice selected before is marked again";
+  EXPECT_EQ(globals.CurCustNum, kAda);
   EXPECT_EQ(Connections(), 1) << "stays open by design";
 
   Sales().InvoiceList.UserClick(1, 1);

@@ -107,7 +107,7 @@ TEST_F(ProfileTest, TakesNoNameAtAllButADiscount) {
   profile.txtDiscount.UserType("");
   Press(profile.btnSave, "Profile.btnSave_Click -13 Type mismatch.  If error persists contact Norvanes author.");
   EXPECT_EQ(Stored("Lname"), "");
-  EXPECT_EQ(Connections(), 1) << "the connection stays open";
+  EXPECT_EQ(Connections(), 0);
 }
 
 TEST_F(ProfileTest, AsksWhatToDoWithChangesAtTheExit) {
@@ -126,6 +126,16 @@ TEST_F(ProfileTest, AsksWhatToDoWithChangesAtTheExit) {
   EXPECT_EQ(Stored("City"), "NULL");
 
   profile = &OpenFor(1);
+  profile->txtCity.UserType("Bath");
+  profile->txtDiscount.UserType("");
+  desktop.Expect("Save Changes to", Answer::Yes);
+  desktop.Expect("Profile.btnSave_Click -13");
+  profile->btnExit.Press();
+  EXPECT_TRUE(IsOpen("Profile")) << "what was to be kept stays";
+  EXPECT_EQ(profile->txtCity.Text(), "Bath");
+  Press(profile->btnExit, "Save Changes to", Answer::No);
+
+  profile = &OpenFor(1);
   profile->cmbPmtType2.UserPick(0);
   Press(profile->btnExit, "Save Changes to", Answer::Yes);
   EXPECT_FALSE(IsOpen("Profile"));
@@ -138,7 +148,7 @@ TEST_F(ProfileTest, LeavesNoNumberSelectedThatNobodyGot) {
   OpenNew().btnDelete.Press();
   EXPECT_TRUE(The<Profile>().IsVisible()) << "there is no one to delete";
   The<Profile>().btnExit.Press();
-  EXPECT_EQ(globals.CurCustNum, 0);
+  EXPECT_EQ(globals.CurCustNum, 1002) << "the client still marked";
   EXPECT_FALSE(globals.NewClientMode);
 
   Profile& left = OpenNew();
@@ -196,7 +206,7 @@ TEST_F(ProfileTest, StartsAnInvoiceFromWhatItShows) {
   EXPECT_TRUE(IsOpen("InvoiceDetail"));
   EXPECT_EQ(globals.CurInvoiceNum, 0);
   EXPECT_EQ(globals.ClientDiscount, 7.5);
-  EXPECT_EQ(globals.CurClientName, "");
+  EXPECT_EQ(globals.CurClientName, "Adams, Bea");
   EXPECT_EQ(globals.CurCustNum, 1002);
 }
 

@@ -1,16 +1,11 @@
 #include "screens/clients/ClientCommands.h"
 
-#include <memory>
-#include <string>
-
-#include "core/FileNames.h"
 #include "core/Trap.h"
 #include "data/Client.h"
 #include "forms/ActionNames.h"
-#include "forms/Program.h"
-#include "screens/clients/Customer.h"
-#include "screens/sales/Receipts.h"
-#include "store/Recordset.h"
+#include "forms/Form.h"
+#include "screens/clients/RefreshCustList.h"
+#include "screens/sales/InvoiceShown.h"
 
 namespace norvane {
 
@@ -26,35 +21,24 @@ bool ConfirmDelete(Desktop& desktop, const std::string& client) {
                       .preselected = Answer::No}) == Answer::Yes;
 }
 
-}  // namespace
-
-void RefreshCustList(Program& program) {
-  Globals& globals = program.globals;
-  Trap(program.desktop, "Globals.RefreshCustList -", [&] {
-    if (IsOpen(globals.rsClients.Share())) globals.rsClients->Close();
-    globals.oClient.Release();
-    globals.rsClients.Release();
-    auto& customer = program.screens.Touch<Customer>();
-    customer.ClearList();
-    globals.oClient = std::make_shared<Client>(program.workspace);
-    globals.oClient->InitAccess(program.workspace.File(kDatabaseFile));
-    globals.oClient->OpenCn();
-    globals.rsClients = globals.oClient->GetAllClients();
-    globals.ClientCount = globals.rsClients->RecordCount();
-    globals.oClient->CloseCn();
-    globals.rsClientPick = globals.rsClients->Clone();
-    customer.ListClients(*globals.rsClients);
-    globals.rsClients->Close();
-  });
+void CloseScreensOf(const ScreenTable& screens, std::int32_t custNum) {
+  for (Form* form : screens.Loaded()) {
+    const auto* screen = dynamic_cast<ClientScreen*>(form);
+    if (screen && screen->Shows(custNum)) form->Unload();
+  }
 }
 
-void DeleteSelectedClient(Program& program) {
-  Globals& globals = program.globals;
-  if (ConfirmDelete(program.desktop, globals.CurClientName)) {
+}  // namespace
+
+void DeleteClient(Program& program, const ClientShown& client) {
+  if (ConfirmDelete(program.desktop, client.name)) {
+    // What they still have to store belongs to the client, too.
+    CloseScreensOf(program.screens, client.number);
     if (program.screens.Has(action::kKeepCopyBeforeDeletion)) program.screens.Run(action::kKeepCopyBeforeDeletion);
-    globals.oClient->OpenCn();
-    globals.oClient->DeleteClient(globals.CurCustNum);
-    globals.oClient->CloseCn();
+    const Object<Client> clients = program.globals.oClient;
+    clients->OpenCn();
+    clients->DeleteClient(client.number);
+    clients->CloseCn();
   }
   RefreshCustList(program);
 }
@@ -64,24 +48,30 @@ void ShowProfile(Program& program) {
                  [&] { program.screens.Show(screen::kProfile); });
 }
 
-void StartNewInvoice(Program& program) {
-  Globals& globals = program.globals;
-  if (globals.CurCustNum == 0) {
+bool SelectNewInvoice(Program& program, const ClientShown& client) {
+  const auto read = client.number > 0 ? ReadClient(program, client.number) : ClientShown();
+  if (!read) return false;
+  if (read->number == 0) {
     program.desktop.Say("Select or enter a client first.");
-    return;
+    return false;
   }
-  IgnoringErrors([&] { program.screens.Unload(screen::kInvoiceDetail); }, [&] { globals.CurInvoiceNum = 0; },
-                 [&] { globals.oClient->OpenCn(); }, [&] { globals.oClient->GetClient(globals.CurCustNum); },
-                 [&] { globals.ClientDiscount = globals.oClient->Discount; }, [&] { globals.oClient->CloseCn(); },
-                 [&] { globals.CurInvoiceDate = program.desktop.Today(); }, [&] { globals.CurClientName.clear(); },
-                 [&] { globals.CurInvoiceDesc.clear(); }, [&] { program.screens.Show(screen::kInvoiceDetail); });
+  program.globals.ClientDiscount = program.globals.oClient->Discount;
+  SelectInvoice(program, {0, program.desktop.Today(), "", client});
+  return true;
 }
 
-void ShowReceipts(Program& program) {
-  if (program.globals.CurCustNum == 0) {
+void StartNewInvoice(Program& program, const ClientShown& client) {
+  IgnoringErrors([&] {
+    if (SelectNewInvoice(program, client)) program.screens.Reopen(screen::kInvoiceDetail);
+  });
+}
+
+void ShowReceipts(Program& program, const ClientShown& client) {
+  if (client.number == 0) {
     program.desktop.Say("Select or enter a client first");
-  } else if (program.screens.Close(Receipts::kName)) {
-    program.screens.Show(Receipts::kName);
+  } else if (program.screens.Close(screen::kReceipts)) {
+    SelectClient(program, client);
+    program.screens.Show(screen::kReceipts);
   }
 }
 

@@ -19,6 +19,7 @@ CustSearch::CustSearch(Program& host)
 
 void CustSearch::Form_Load() {
   Trapped("CustSearch.Form_Load -", [&] {
+    row_ = globals.RowSelected;
     CustList.Clear();
     CustList.SetColumns({{"Name", 2000}, {"custnum", 0}});
     CustList.SetTopRow(1);
@@ -34,12 +35,8 @@ void CustSearch::btnOK_Click() {
   Trapped("CustSearch.btnCancel_Click -", [&] {
     const int row = CustList.Row();
     if (row == 0) return;
-    globals.CurCustNum = convert.ToLong(CustList.Cell(row, kCustNum));
-    globals.CurClientName = CustList.Cell(row, kClient);
-    Grid& payments = screens.Touch<Receipts>().PaymentList;
-    payments.SetCell(globals.RowSelected, Receipts::kCustNum, convert.ToText(globals.CurCustNum));
-    payments.SetCell(globals.RowSelected, Receipts::kClient, globals.CurClientName);
-    globals.PayClientSet = true;
+    SelectClient(program, {convert.ToLong(CustList.Cell(row, kCustNum)), CustList.Cell(row, kClient)});
+    if (auto* payments = screens.Find<Receipts>()) payments->TakeClient(row_, SelectedClient(globals));
     Unload();
   });
 }

@@ -20,6 +20,8 @@ class CustSearch : public Form {
  private:
   void Form_Load() override;
   void btnOK_Click();
+
+  int row_ = 0;  ///< the payment that asks for its client
 };
 
 }  // namespace norvane

@@ -10,7 +10,9 @@
 #include "data/SharedLists.h"
 #include "data/Vendor.h"
 #include "data/cSetup.h"
+#include "screens/RowOf.h"
 #include "screens/clients/ClientCommands.h"
+#include "screens/clients/RefreshCustList.h"
 #include "screens/sales/CustInvoices.h"
 #include "screens/sales/GetInvoices.h"
 #include "screens/start/intro.h"
@@ -103,13 +105,7 @@ void Customer::Form_Load() {
     screens.Unload(intro::kName);
     StartStatusBar();
     globals.oInvoice->InitAccess(workspace.File(kDatabaseFile));
-    if (globals.rsClientPick->RecordCount() < 1) {
-      desktop.Say("Please enter a client into the database!");
-      globals.CurCustNum = 0;
-      screens.Show(screen::kProfile, {.owner = this});
-    } else {
-      SelectFirstClient();
-    }
+    SelectFirstClient();
   });
 }
 
@@ -152,9 +148,18 @@ void Customer::StartStatusBar() {
   tmrClock.SetRunning(true);
 }
 
+// A list that could not be read says nothing of whether there are clients.
 void Customer::SelectFirstClient() {
-  SelectClient(1);
-  CustList2.SetCol(kClient);
+  if (!IsOpen(globals.rsClientPick.Share())) return;
+  if (HasClients()) {
+    CustList2.SetRow(1);
+    SelectMarked();
+    CustList2.SetCol(kClient);
+  } else {
+    desktop.Say("Please enter a client into the database!");
+    SelectClient(program, {});
+    screens.Show(screen::kProfile, {.owner = this});
+  }
 }
 
 void Customer::tmrClock_Timer() {
@@ -205,32 +210,41 @@ void Customer::ClearList() {
   CustList2.SetRows(1);
 }
 
-void Customer::ListClients(Recordset& clients) {
-  const std::string selected = convert.ToText(globals.CurCustNum);
-  int selectedRow = 0;
+void Customer::ListClients(Recordset& clients, std::int32_t marked) {
   for (; !clients.Eof(); clients.MoveNext()) {
-    const std::string number = clients.Text("custnum");
-    CustList2.AddItem(
-        GridRow({number, "", clients.Text("lname") + ", " + clients.Text("fname"), clients.Text("homephone"),
-                 clients.Text("workphone"), clients.Text("celphone"), clients.Text("email")}));
-    if (number == selected) selectedRow = CustList2.Rows() - 1;
+    CustList2.AddItem(GridRow({clients.Text("custnum"), "", clients.Text("lname") + ", " + clients.Text("fname"),
+                               clients.Text("homephone"), clients.Text("workphone"), clients.Text("celphone"),
+                               clients.Text("email")}));
   }
-  if (selectedRow > 0) CustList2.SetRow(selectedRow);
+  if (!MarkClient(globals.CurCustNum) && !MarkClient(marked)) CustList2.SetRow(0);
+}
+
+// The second part of the name is empty, so that it ends with a space.
+ClientShown Customer::MarkedClient() const {
+  const int row = CustList2.Row();
+  if (row == 0) return {};
+  return {convert.ToLong(CustList2.Cell(row, kCustNum)),
+          CustList2.Cell(row, kClient) + " " + CustList2.Cell(row, kFirst)};
+}
+
+bool Customer::MarkClient(std::int32_t custNum) {
+  const int row = RowOf(CustList2, kCustNum, convert.ToText(custNum));
+  if (row > 0) CustList2.SetRow(row);
+  return row > 0;
 }
 
 void Customer::CustList2_Click() {
   Trapped("Client.CustList2_Click -", [&] {
-    if (!HasClients()) return;
-    SelectClient(CustList2.Row());
-    globals.RowSelected = CustList2.Row();
+    if (HasClients()) SelectMarked();
   });
 }
 
-void Customer::SelectClient(int row) {
-  globals.CurCustNum = convert.ToLong(CustList2.Cell(row, kCustNum));
+// Where no row is marked the selection stays.
+void Customer::SelectMarked() {
+  if (CustList2.Row() == 0) return;
+  SelectClient(program, MarkedClient());
   globals.CurInvoiceDate = desktop.Today();
-  // The second part is empty, so that the name ends with a space.
-  globals.CurClientName = CustList2.Cell(row, kClient) + " " + CustList2.Cell(row, kFirst);
+  globals.RowSelected = CustList2.Row();
 }
 
 void Customer::CustList2_DblClick() {
@@ -246,7 +260,7 @@ void Customer::CustList2_DblClick() {
     } else {
       sales.Unload();
       if (AskYesNo("Enter new sales invoice for " + globals.CurClientName + "?", "No Sales Found")) {
-        StartNewInvoice(program);
+        StartNewInvoice(program, SelectedClient(globals));
       }
     }
   });
@@ -256,10 +270,12 @@ void Customer::CustList2_KeyPress(int keyAscii) {
   if (keyAscii == static_cast<int>(Key::Enter)) CustList2_DblClick();
 }
 
-// The ways to other screens.
+// The ways to other screens. What concerns one client acts on the one that is marked.
 
 void Customer::btnCustInfo_Click() {
-  if (HasClients()) ShowProfile(program);
+  if (!HasClients()) return;
+  CustList2_Click();
+  ShowProfile(program);
 }
 
 void Customer::btnNewCust_Click() {
@@ -267,18 +283,22 @@ void Customer::btnNewCust_Click() {
     // Before the flag is set: the profile clears it as it goes.
     if (!screens.Close(screen::kProfile)) return;
     globals.NewClientMode = true;
-    globals.CurCustNum = 0;
+    SelectClient(program, {});
     screens.Show(screen::kProfile);
   });
 }
 
 void Customer::btnNewInvoice_Click() {
-  if (HasClients()) StartNewInvoice(program);
+  if (!HasClients()) return;
+  CustList2_Click();
+  StartNewInvoice(program, SelectedClient(globals));
 }
 
 void Customer::btnReceipts_Click() {
   Trapped("Client.btnReceipts_Click -", [&] {
-    if (HasClients()) ShowReceipts(program);
+    if (!HasClients()) return;
+    CustList2_Click();
+    ShowReceipts(program, SelectedClient(globals));
   });
 }
 
@@ -305,7 +325,9 @@ void Customer::btnInventory_Click() {
 
 void Customer::mnuDelete_Click() {
   Trapped("Client.mnuDelete_Click -", [&] {
-    if (HasClients()) DeleteSelectedClient(program);
+    if (!HasClients()) return;
+    CustList2_Click();
+    DeleteClient(program, SelectedClient(globals));
   });
 }
 

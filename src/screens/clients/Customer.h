@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "forms/Form.h"
+#include "screens/clients/ClientShown.h"
 
 namespace norvane {
 
@@ -74,9 +75,12 @@ class Customer : public Form {
 
   /// Empties the list, headings and widths as at first.
   void ClearList();
-  /// Adds a row for each client; the cursor comes back to the selected one, so that what is marked is what the commands
-  /// act on.
-  void ListClients(Recordset& clients);
+  /// Adds a row for each client and marks the selected one, else the client `marked`, else none.
+  void ListClients(Recordset& clients, std::int32_t marked);
+  /// The client of the row that is marked; none where no row is.
+  ClientShown MarkedClient() const;
+  /// Marks a client's row. False, and the mark stays, if the client isn't in the list.
+  bool MarkClient(std::int32_t custNum);
   /// Whether the list shows any client at all.
   bool HasClients() const { return CustList2.Rows() != 1; }
 
@@ -99,7 +103,7 @@ class Customer : public Form {
   void CustList2_Click();
   void CustList2_DblClick();
   void CustList2_KeyPress(int keyAscii);
-  void SelectClient(int row);
+  void SelectMarked();
 
   void btnCustInfo_Click();
   void btnNewCust_Click();

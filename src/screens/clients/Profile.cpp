@@ -4,6 +4,7 @@
 #include "data/Client.h"
 #include "screens/clients/ClientCommands.h"
 #include "screens/clients/Customer.h"
+#include "screens/clients/RefreshCustList.h"
 #include "store/Recordset.h"
 
 namespace norvane {
@@ -15,7 +16,7 @@ struct Bound {
   std::string Client::*property;
 };
 
-/// Which box shows which property. Notes has no box and stays as it was read.
+/// Which box shows which property. Notes has none.
 constexpr Bound kBound[] = {
     {&Profile::txtFname, &Client::fname},
     {&Profile::txtMname, &Client::Mname},
@@ -178,17 +179,17 @@ void Profile::WireChanges() {
 void Profile::Form_Load() {
   if (!IsVisible()) txtFname.SetFocus();
   Trapped("Profile.Form_Load -", [&] {
-    globals.oClient->OpenCn();
-    globals.oClient->GetClient(globals.CurCustNum);
-    numberIsUnsaved_ = globals.oClient->CustNum != globals.CurCustNum;
-    ShowBalance();
+    const Object<Client> client = globals.oClient;
+    client->OpenCn();
+    numberIsUnsaved_ = !client->GetClient(globals.CurCustNum);
+    if (client->CustNum != 0) ShowBalance();
     SetForm();
-    globals.oClient->CloseCn();
+    client->CloseCn();
     globals.ProfileLoaded = false;
     // Filling the boxes has raised their Change. RefreshNeeded keeps what that did to it.
     Changed = false;
-    globals.CurCustNum = NumberShown();
-    globals.CurClientName = txtLname.Text().empty() ? "" : NameShown();
+    client_ = {NumberShown(), txtLname.Text().empty() ? "" : NameShown()};
+    SelectClient(program, client_);
     AddPaymentTypes();
   });
 }
@@ -202,10 +203,12 @@ void Profile::ShowBalance() {
   lblBalDue.SetForeColor(owing ? Colour::Red : Colour::Black);
 }
 
+// A client that could not be read has the number 0, and none is shown.
 void Profile::SetForm() {
   Trapped("Profile.SetForm -", [&] {
     const Object<Client> client = globals.oClient;
-    lblCustNum.SetCaption(convert.ToText(std::int32_t{client->CustNum}));
+    lblCustNum.SetCaption(client->CustNum == 0 ? "" : convert.ToText(std::int32_t{client->CustNum}));
+    notes_ = client->Notes;
     for (const Bound& bound : kBound) (this->*bound.box).SetText((*client).*bound.property);
     cmbPmtType1.SetText(client->PaymentType1);
     cmbPmtType2.SetText(client->PaymentType2);
@@ -243,11 +246,19 @@ std::string Profile::NameShown() const {
 // Saving.
 
 void Profile::btnSave_Click() {
+  Save();
+}
+
+/// True if the client is stored. After a refusal the saving goes on as if it were.
+bool Profile::Save() {
+  bool stored = false;
   Trapped("Profile.btnSave_Click -", [&] {
-    globals.oClient->OpenCn();
     TakeFromControls();
-    globals.oClient->SaveClientAccess(NumberShown());
-    numberIsUnsaved_ = false;
+    globals.oClient->OpenCn();
+    stored = globals.oClient->SaveClientAccess(NumberShown());
+    if (stored) numberIsUnsaved_ = false;
+    client_ = {NumberShown(), NameShown()};
+    SelectClient(program, client_);
     globals.NewClientMode = false;
     ShowSaved();
     if (globals.RefreshNeeded) {
@@ -259,11 +270,15 @@ void Profile::btnSave_Click() {
     screens.Unload(screen::kCustomerSaved);
     Changed = false;
   });
+  return stored;
 }
 
+// Notes come from the client read: the shared object holds another one by now, if anyone has read one.
 void Profile::TakeFromControls() {
+  if (NumberShown() == 0) Raise(ErrorNumber::InvalidProcedureCall);
   const Object<Client> client = globals.oClient;
   client->CustNum = NumberShown();
+  client->Notes = notes_;
   for (const Bound& bound : kBound) (*client).*bound.property = (this->*bound.box).Text();
   client->PaymentType1 = cmbPmtType1.Text();
   client->PaymentType2 = cmbPmtType2.Text();
@@ -277,17 +292,20 @@ void Profile::ShowSaved() {
   desktop.Wait(1);
 }
 
-/// Asks whether to save what was changed, and saves on Yes. Cancel as well if the user has closed the screen while the
-/// notice of the save stood.
+/// Asks whether to save what was changed, and saves on Yes. Cancel as well if that was refused, or if the user has
+/// closed the screen while the notice of the save was up.
 Answer Profile::OfferToSave() {
+  SelectClient(program, {NumberShown(), NameShown()});
   const Answer answer = AskYesNoCancel("Save Changes to " + globals.CurClientName + "?", "Save Client Pofile?");
-  if (answer == Answer::Yes) btnSave_Click();
+  if (answer == Answer::Yes && !Save()) {
+    Changed = true;
+    return Answer::Cancel;
+  }
   return IsLoaded() ? answer : Answer::Cancel;
 }
 
 void Profile::btnExit_Click() {
   Trapped("Profile.btnExit_Click -", [&] {
-    globals.CurClientName = NameShown();
     if (Changed && OfferToSave() == Answer::Cancel) return;
     Changed = false;
     Unload();
@@ -297,11 +315,10 @@ void Profile::btnExit_Click() {
 void Profile::btnNewCustomer_Click() {
   Trapped("Profile.btnNewCustomer_Click -", [&] {
     if (!screens.Touch<Customer>().HasClients()) return;
-    globals.CurClientName = NameShown();
     if (Changed && OfferToSave() == Answer::Cancel) return;
     Changed = false;
     globals.NewClientMode = true;
-    globals.CurCustNum = 0;
+    SelectClient(program, {});
     ClearForm();
     // Adds the payment types to the combos once more.
     Form_Load();
@@ -311,13 +328,7 @@ void Profile::btnNewCustomer_Click() {
 }
 
 void Profile::btnNewInvoice_Click() {
-  globals.CurClientName = NameShown();
-  if (!SavedForInvoice() || !screens.Touch<Customer>().HasClients()) return;
-  IgnoringErrors([&] { screens.Unload(screen::kInvoiceDetail); }, [&] { globals.CurInvoiceNum = 0; },
-                 [&] { globals.CurInvoiceDate = desktop.Today(); }, [&] { globals.CurClientName.clear(); },
-                 [&] { globals.CurInvoiceDesc.clear(); },
-                 [&] { globals.ClientDiscount = convert.ToDouble(txtDiscount.Text()); },
-                 [&] { screens.Show(screen::kInvoiceDetail); });
+  if (SavedForInvoice() && screens.Touch<Customer>().HasClients()) StartNewInvoice(program, client_);
 }
 
 bool Profile::SavedForInvoice() {
@@ -335,8 +346,9 @@ bool Profile::SavedForInvoice() {
 void Profile::btnDelete_Click() {
   Trapped("Profile.btnDelete_Click -", [&] {
     if (!screens.Touch<Customer>().HasClients() || globals.NewClientMode) return;
-    // Whatever the answer: No closes the profile too.
-    DeleteSelectedClient(program);
+    SelectClient(program, client_);
+    DeleteClient(program, client_);
+    // No closes the profile too.
     Unload();
   });
 }
@@ -371,8 +383,11 @@ void Profile::SetShippingInfo() {
 
 void Profile::Form_Unload() {
   globals.NewClientMode = false;
-  // A number that was given to nobody must not stay selected.
-  if (numberIsUnsaved_ && globals.CurCustNum == NumberShown()) globals.CurCustNum = 0;
+  // A number that no client got must not stay selected.
+  if (numberIsUnsaved_ && globals.CurCustNum == NumberShown()) {
+    const auto* customer = screens.Find<Customer>();
+    SelectClient(program, customer ? customer->MarkedClient() : ClientShown());
+  }
 }
 
 }  // namespace norvane

@@ -4,14 +4,17 @@
 #include <string>
 
 #include "forms/Form.h"
+#include "screens/clients/ClientShown.h"
 
 namespace norvane {
 
 /// All fields of one client on three tabs; also where a new client is entered.
-class Profile : public Form {
+class Profile : public Form, public ClientScreen {
  public:
   static constexpr const char* kName = screen::kProfile;
   explicit Profile(Program& program);
+
+  bool Shows(std::int32_t custNum) const override { return NumberShown() == custNum; }
 
   Button btnSave{*this, "btnSave", {.toolTip = "Save Client", .icon = "save"}};
   Button btnDelete{*this, "btnDelete", {.toolTip = "Delete Client", .icon = "delete"}};
@@ -97,6 +100,7 @@ class Profile : public Form {
   std::string NameShown() const;
 
   void btnSave_Click();
+  bool Save();
   void TakeFromControls();
   void ShowSaved();
 
@@ -115,6 +119,8 @@ class Profile : public Form {
   void Form_Unload() override;
 
   bool Changed = false;          ///< by the user or by code since the last load or save
+  ClientShown client_;           ///< as it was read or saved last
+  std::string notes_;            ///< of the client read; they have no box
   bool numberIsUnsaved_ = true;  ///< the number shown belongs to no row yet
 };
 

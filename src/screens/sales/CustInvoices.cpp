@@ -1,8 +1,10 @@
 #include "screens/sales/CustInvoices.h"
 
-#include <tuple>
-
+#include "core/Val.h"
+#include "data/Client.h"
+#include "data/Invoice.h"
 #include "forms/DatePair.h"
+#include "screens/RowOf.h"
 #include "screens/clients/ClientCommands.h"
 #include "screens/sales/GetInvoices.h"
 #include "screens/sales/InvoiceDetail.h"
@@ -33,14 +35,23 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
        Stretch(InvoiceList), Strip({Space(), Label3, lblBalDue})}));
   SetExitButton(btnExit);
   btnDetails.Click = [this] { InvoiceList_DblClick(); };
-  btnNewInvoice.Click = [this] { StartNewInvoice(program); };
+  btnNewInvoice.Click = [this] {
+    TakeSelection();
+    StartNewInvoice(program, SelectedClient(globals));
+  };
   btnDelete.Click = [this] { btnDelete_Click(); };
   WireTo(btnPrint, screen::kPrtInvoice, [this] {
-    SelectMarkedIfNone();
+    TakeSelection();
     screens.Reopen(screen::kPrtInvoice);
   });
-  btnCustInfo.Click = [this] { ShowProfile(program); };
-  btnReceipts.Click = Trapping("ClientInvoices.btnReceipts_Click -", [this] { ShowReceipts(program); });
+  btnCustInfo.Click = [this] {
+    TakeSelection();
+    ShowProfile(program);
+  };
+  btnReceipts.Click = Trapping("ClientInvoices.btnReceipts_Click -", [this] {
+    TakeSelection();
+    ShowReceipts(program, SelectedClient(globals));
+  });
   btnInventory.Click = [this] { btnInventory_Click(); };
   btnExit.Click = [this] { Unload(); };
   WritePickedDate(DTPicker1, txtSinceDate);
@@ -64,9 +75,11 @@ void CustInvoices::Form_Load() {
   });
 }
 
-// The text counts, not the picker. An error leaves the notice standing.
+// The text counts, not the picker. After an error the notice stays.
 void CustInvoices::btnGo_Click() {
   Trapped("ClientInvoices.btnGo_Click -", [&] {
+    TakeSelection();
+    const ClientShown selected = SelectedClient(globals);
     const bool all = CmbInvoice.Text() == kAllClients;
     if (all) globals.CurClientName = kAllClients;
     screens.Show(screen::kLoadingInvoices, {.owner = this});
@@ -77,8 +90,8 @@ void CustInvoices::btnGo_Click() {
       GetInvoices(program, SinceDate());
     }
     screens.Unload(screen::kLoadingInvoices);
-    Label3.SetVisible(!all);
-    lblBalDue.SetVisible(!all);
+    // Nothing in the list has brought its client's name.
+    if (MarkedNumber() == 0) SelectClient(program, selected);
   });
 }
 
@@ -96,52 +109,93 @@ void CustInvoices::ClearList() {
   InvoiceList.SetRows(1);
 }
 
-void CustInvoices::ListInvoices(Recordset& invoices) {
+void CustInvoices::ListInvoices(Recordset& invoices, const ClientShown& client, std::int32_t marked) {
+  const bool all = client.number == 0;
+  client_ = client;
+  CmbInvoice.SetText(all ? kAllClients : kSelectedClient);
+  Label3.SetVisible(!all);
+  lblBalDue.SetVisible(!all);
   for (; !invoices.Eof(); invoices.MoveNext()) {
     InvoiceList.AddItem(GridRow({convert.ToText(invoices.Field("InvoiceDate")), invoices.Text("InvoiceNum"),
                                  invoices.Text("CustNum"), "", invoices.Text("lname") + ", " + invoices.Text("fname"),
                                  convert.CurrencyText(ChargeOf(invoices, convert)), invoices.Text("description")}));
   }
   if (invoices.RecordCount() > 0) invoices.Close();
+  if (const int row = RowOf(InvoiceList, kInvoiceNum, convert.ToText(marked)); row > 0) InvoiceList.SetRow(row);
 }
 
-void CustInvoices::SelectInvoice() {
+void CustInvoices::RefreshInvoice(const InvoiceShown& saved) {
+  const int row = RowOf(InvoiceList, kInvoiceNum, convert.ToText(saved.number));
+  if (row == 0) return;
+  const Object<Recordset> invoices = globals.oInvoice->GetCustInvoices(saved.client.number, saved.date - 1);
+  for (; !invoices->Eof(); invoices->MoveNext()) {
+    if (invoices->Long("InvoiceNum") != saved.number) continue;
+    InvoiceList.SetCell(row, kDate, convert.ToText(invoices->Field("InvoiceDate")));
+    InvoiceList.SetCell(row, kCharges, convert.CurrencyText(ChargeOf(*invoices, convert)));
+    InvoiceList.SetCell(row, kDescription, invoices->Text("description"));
+  }
+}
+
+void CustInvoices::ShowBalanceDue() {
+  const Object<Client> client = globals.oClient;
+  Date upToToday;
+  client->OpenCn();
+  lblBalDue.SetCaption(convert.CurrencyText(client->ClientBal(client_.number, upToToday)));
+  const bool owing = client->ClientBal(client_.number, upToToday) > Currency();
+  lblBalDue.SetForeColor(owing ? Colour::Red : Colour::Black);
+  client->CloseCn();
+}
+
+std::int32_t CustInvoices::MarkedNumber() const {
   const int row = InvoiceList.Row();
-  globals.CurInvoiceDate = convert.ToDate(InvoiceList.Cell(row, kDate));
-  globals.CurInvoiceNum = convert.ToLong(InvoiceList.Cell(row, kInvoiceNum));
-  globals.CurClientName = InvoiceList.Cell(row, kClient);
-  globals.CurInvoiceDesc = InvoiceList.Cell(row, kDescription);
+  return row == 0 ? 0 : ValLong(InvoiceList.Cell(row, kInvoiceNum));
+}
+
+void CustInvoices::SelectMarked() {
+  const auto cell = [&](InvoiceColumn column) { return InvoiceList.Cell(InvoiceList.Row(), column); };
+  const Date date = convert.IsDate(cell(kDate)) ? convert.ToDate(cell(kDate)) : Date();
+  SelectInvoice(
+      program,
+      {convert.ToLong(cell(kInvoiceNum)), date, cell(kDescription), {convert.ToLong(cell(kCustNum)), cell(kClient)}});
 }
 
 void CustInvoices::InvoiceList_Click() {
-  Trapped("ClientInvoices.InvoiceList_Click -", [&] {
-    SelectInvoice();
-    globals.CurCustNum = convert.ToLong(InvoiceList.Cell(InvoiceList.Row(), kCustNum));
-  });
+  Trapped("ClientInvoices.InvoiceList_Click -", [&] { SelectMarked(); });
 }
 
-/// A new invoice takes the selection along; when it is gone, stored or not, the row still marked is the selected one.
-void CustInvoices::SelectMarkedIfNone() {
-  if (globals.CurInvoiceNum == 0 && InvoiceList.Row() > 0) SelectInvoice();
+// The commands act on the invoice that is marked and its client. Where the client's list is empty the client is
+// selected alone.
+void CustInvoices::TakeSelection() {
+  if (MarkedNumber() != 0) {
+    InvoiceList_Click();
+  } else if (client_.number != 0) {
+    SelectClient(program, client_);
+  }
 }
 
-// An invoice that stands open closes first, which may reload this list and so select another one.
+// An open invoice closes first, which may reload this list and so select another one.
 void CustInvoices::InvoiceList_DblClick() {
-  SelectMarkedIfNone();
-  const std::tuple asked(globals.CurInvoiceNum, globals.CurInvoiceDate, globals.CurClientName, globals.CurInvoiceDesc);
+  if (MarkedNumber() == 0) return;
+  TakeSelection();
+  const InvoiceShown asked = SelectedInvoice(globals);
   if (!screens.Close(InvoiceDetail::kName)) return;
-  std::tie(globals.CurInvoiceNum, globals.CurInvoiceDate, globals.CurClientName, globals.CurInvoiceDesc) = asked;
+  SelectInvoice(program, asked);
   screens.Show(InvoiceDetail::kName, {.owner = this});
 }
 
-// The deletion itself is carried out as the list is read anew: all of the client's invoices, whatever the since date.
+// The deletion itself is carried out as the list is read again: all of the client's invoices, whatever the since date.
 void CustInvoices::btnDelete_Click() {
   Trapped("ClientInvoices.btnDelete_Click -", [&] {
-    SelectMarkedIfNone();
+    if (MarkedNumber() == 0) return;
+    TakeSelection();
     const std::string number = convert.ToText(globals.CurInvoiceNum);
     globals.InvoicesStale =
         AskYesNo("Delete invoice #" + number + " and all associated charges?", "Delete Invoice ... #" + number + "?");
-    if (globals.InvoicesStale) GetInvoices(program, Date());
+    if (!globals.InvoicesStale) return;
+    // What its sheet still has to store goes with it.
+    const auto* sheet = screens.Find<InvoiceDetail>();
+    if (sheet && sheet->NumberShown() == globals.CurInvoiceNum) screens.Unload(InvoiceDetail::kName);
+    GetInvoices(program, Date());
   });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "screens/sales/InvoiceShown.h"
 
 namespace norvane {
 
@@ -42,21 +43,30 @@ class CustInvoices : public Form {
   Date SinceDate() const { return convert.ToDateFromMask(txtSinceDate.Text()); }
   /// Empties the list, headings and widths as at first.
   void ClearList();
-  /// Adds a row for each invoice and closes what had rows.
-  void ListInvoices(Recordset& invoices);
-  /// The current row's invoice becomes the selected one, under the client's name as it stands there.
-  void SelectInvoice();
+  /// Adds a row for each invoice and closes what had rows. They are those of `client`, or of all clients if that is
+  /// none, as the combo then says. The cursor is on the invoice numbered `marked` if it is there, else on the first.
+  void ListInvoices(Recordset& invoices, const ClientShown& client, std::int32_t marked);
+  /// The invoice of the current row, 0 without one.
+  std::int32_t MarkedNumber() const;
+  /// The invoice of the current row becomes the selected one, under its client's name as the row shows it.
+  void SelectMarked();
+  /// Shows what the client whose invoices are listed owes today, red if it is anything. Reports no errors itself.
+  void ShowBalanceDue();
+  /// Writes the row of an invoice that has been saved again, if it is in the list. oInvoice must be open.
+  void RefreshInvoice(const InvoiceShown& saved);
 
  private:
   void Form_Load() override;
   void btnGo_Click();
-  void SelectMarkedIfNone();
   void InvoiceList_Click();
+  void TakeSelection();
   void InvoiceList_DblClick();
   void btnDelete_Click();
   void btnInventory_Click();
   void Form_Resize() override;
   void Form_Unload() override;
+
+  ClientShown client_ = SelectedClient(globals);  ///< whose invoices are listed; none for all clients'
 };
 
 }  // namespace norvane

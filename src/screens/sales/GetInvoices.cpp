@@ -4,7 +4,6 @@
 
 #include "core/FileNames.h"
 #include "core/Trap.h"
-#include "data/Client.h"
 #include "data/Invoice.h"
 #include "forms/Program.h"
 #include "screens/sales/CustInvoices.h"
@@ -24,12 +23,16 @@ void OpenInvoices(Program& program) {
   program.globals.oInvoice->OpenCn();
 }
 
-void SelectLatest(CustInvoices& sales, Globals& globals) {
-  const Grid& list = sales.InvoiceList;
-  if (list.Rows() <= 1) return;
-  sales.SelectInvoice();
+/// The invoice that a filled list goes back to.
+std::int32_t Marked(const CustInvoices& sales, const Globals& globals) {
+  return sales.MarkedNumber() == 0 ? 0 : globals.CurInvoiceNum;
+}
+
+void SelectListed(CustInvoices& sales, Globals& globals) {
+  if (sales.MarkedNumber() == 0) return;
+  sales.SelectMarked();
   // That column is empty, so that the name ends with a space.
-  globals.CurClientName += " " + list.Cell(list.Row(), CustInvoices::kLast);
+  globals.CurClientName += " " + sales.InvoiceList.Cell(sales.InvoiceList.Row(), CustInvoices::kLast);
 }
 
 }  // namespace
@@ -49,6 +52,7 @@ void GetInvoices(Program& program, Date sinceDate) {
     program.desktop.DoEvents();
 
     auto& sales = program.screens.Touch<CustInvoices>();
+    const std::int32_t marked = Marked(sales, globals);
     sales.ClearList();
     RecreateInvoice(program);
     OpenInvoices(program);
@@ -57,10 +61,10 @@ void GetInvoices(Program& program, Date sinceDate) {
       globals.InvoicesStale = false;
     }
     globals.rsInvoices = globals.oInvoice->GetCustInvoices(globals.CurCustNum, sinceDate);
-    sales.ListInvoices(*globals.rsInvoices);
-    ShowBalanceDue(program);
+    sales.ListInvoices(*globals.rsInvoices, SelectedClient(globals), marked);
+    sales.ShowBalanceDue();
     globals.oInvoice->CloseCn();
-    SelectLatest(sales, globals);
+    SelectListed(sales, globals);
     program.screens.Unload(screen::kGettingInvoices);
   });
 }
@@ -69,25 +73,14 @@ void GetAllInvoices(Program& program) {
   Globals& globals = program.globals;
   Trap(program.desktop, "Globals.GetAllInvoices -", [&] {
     auto& sales = program.screens.Touch<CustInvoices>();
+    const std::int32_t marked = Marked(sales, globals);
     sales.ClearList();
     RecreateInvoice(program);
     OpenInvoices(program);
     globals.rsInvoices = globals.oInvoice->GetAllInvoices(sales.SinceDate());
-    sales.ListInvoices(*globals.rsInvoices);
-    SelectLatest(sales, globals);
+    sales.ListInvoices(*globals.rsInvoices, {}, marked);
+    SelectListed(sales, globals);
   });
-}
-
-void ShowBalanceDue(Program& program) {
-  const Object<Client> client = program.globals.oClient;
-  Label& lblBalDue = program.screens.Touch<CustInvoices>().lblBalDue;
-  const std::int32_t custNum = program.globals.CurCustNum;
-  Date upToToday;
-  client->OpenCn();
-  lblBalDue.SetCaption(program.convert.CurrencyText(client->ClientBal(custNum, upToToday)));
-  const bool owing = client->ClientBal(custNum, upToToday) > Currency();
-  lblBalDue.SetForeColor(owing ? Colour::Red : Colour::Black);
-  client->CloseCn();
 }
 
 }  // namespace norvane

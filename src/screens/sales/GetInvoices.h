@@ -14,14 +14,13 @@ Date StartOfYear(const Clock& clock);
 
 /// Recreates oInvoice, carries out the deletion of CurInvoiceNum if InvoicesStale says that it is pending, and fills
 /// the sales screen with the selected client's invoices later than `sinceDate` and the balance. The latest invoice
-/// becomes the selected one; without any the selection stays. Reports its errors; the busy notice then stays too.
+/// becomes the selected one, or the one selected while the list was shown before; without any the selection stays.
+/// Reports its errors; the busy notice then stays too.
 void GetInvoices(Program& program, Date sinceDate);
 
-/// Recreates oInvoice and fills the sales screen with all clients' invoices later than the date on it. The balance
-/// stays as it was, a pending deletion too, and oInvoice's connection stays open. Reports its errors.
+/// Recreates oInvoice and fills the sales screen with all clients' invoices later than the date on it; one of them
+/// becomes selected in the same way. The balance stays as it was, a pending deletion too, and oInvoice's connection
+/// stays open. Reports its errors.
 void GetAllInvoices(Program& program);
-
-/// The sales screen shows the selected client's balance of today, red if something is owed. Reports no errors itself.
-void ShowBalanceDue(Program& program);
 
 }  // namespace norvane

@@ -1,13 +1,11 @@
 #include "screens/sales/InvoiceDetail.h"
 
-#include <utility>
-
 #include "core/Val.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
+#include "screens/clients/ClientCommands.h"
 #include "screens/sales/CustInvoices.h"
 #include "screens/sales/GetInvoices.h"
-#include "screens/sales/Receipts.h"
 #include "store/Recordset.h"
 
 namespace norvane {
@@ -27,7 +25,7 @@ InvoiceDetail::InvoiceDetail(Program& host)
   txtTax.SetToolTip("Sales Tax");
   SetLayout(Column(
       {Strip({btnSave, btnNew, btnPrint, btnPayments, Space(), btnExit}), Head(),
-       Stretch(Group("Invoice Items", Column({Stretch(ItemList), Strip({btnNewItem, btnRemove, Space(),
+       Stretch(Group("Invoice Items", Column({Stretch(ItemList), Strip({btnNewItem, btnRemove, Space(), lblLessStored,
                                                                         Field("Total Charges:", lblTotal)})})))}));
   SetExitButton(btnExit);
   WireButtons();
@@ -77,6 +75,7 @@ void InvoiceDetail::Form_Load() {
     SkipTotal = true;
     globals.BeforeQty = rows_.OldRow = rows_.NewRow = 0;
     rows_.StartOver();
+    lblLessStored.SetCaption("");
     SetUpGrid();
     FillShippingTypes();
     if (globals.CurInvoiceNum != 0) {
@@ -95,20 +94,25 @@ void InvoiceDetail::FillShippingTypes() {
   }
 }
 
+// The record read says whose invoice it is, of what day and for what. A number that has gone has no client.
 void InvoiceDetail::OpenInvoice() {
   const Object<Invoice> invoice = globals.oInvoice;
+  const std::int32_t number = globals.CurInvoiceNum;
   invoice->OpenCn();
-  invoice->GetInvoice(globals.CurInvoiceNum);
-  if (invoice->InvoiceNum == globals.CurInvoiceNum) CustShown = invoice->CustNum;
-  lblInvoiceNum.SetCaption(convert.ToText(globals.CurInvoiceNum));
-  txtDescription.SetText(globals.CurInvoiceDesc);
-  lblCustomer.SetCaption(globals.CurClientName);
-  txtDate.SetText(convert.ToText(globals.CurInvoiceDate));
+  invoice->GetInvoice(number);
+  if (invoice->InvoiceNum == 0) return ShowNone();
+  headIsStored_ = !invoice->CustNum.Text().empty();
+  client_ = headIsStored_ ? ReadClient(program, invoice->CustNum).value_or(ClientShown()) : ClientShown();
+  date_ = invoice->InvoiceDate;
+  lblInvoiceNum.SetCaption(convert.ToText(number));
+  txtDescription.SetText(invoice->description);
+  lblCustomer.SetCaption(client_.name);
+  txtDate.SetText(convert.ToText(date_));
   txtSalesRep.SetText(invoice->SalesRep);
   txtDiscount.SetText(convert.ToText(invoice->Discount));
   ShowShippingAndCharges();
-  rsItems = invoice->GetInvoiceItems(globals.CurInvoiceNum);
-  lblTotal.SetCaption(convert.CurrencyText(invoice->InvoiceTotal(globals.CurInvoiceNum)));
+  rsItems = invoice->GetInvoiceItems(number);
+  lblTotal.SetCaption(convert.CurrencyText(invoice->InvoiceTotal(number)));
   invoice->CloseCn();
   ListItems();
   // Filling the fields has set it.
@@ -118,25 +122,43 @@ void InvoiceDetail::OpenInvoice() {
 // What oInvoice holds of the last invoice carries over, so that a run of similar invoices needs no retyping.
 void InvoiceDetail::BeginInvoice() {
   NewInvoice = true;
+  headIsStored_ = false;
+  client_ = SelectedClient(globals);
+  date_ = desktop.Today();
   const Object<Invoice> invoice = globals.oInvoice;
   invoice->OpenCn();
   invoice->GetnewInvoiceNum();
+  if (invoice->InvoiceNum == 0) return ShowNone();
   lblInvoiceNum.SetCaption(convert.ToText(std::int32_t{invoice->InvoiceNum}));
   txtDescription.SetText("");
-  txtDate.SetText(convert.ToText(desktop.Today()));
+  txtDate.SetText(convert.ToText(date_));
   txtSalesRep.SetText(invoice->SalesRep);
   txtDiscount.SetText(convert.ToText(globals.ClientDiscount));
   ShowShippingAndCharges();
   invoice->CloseCn();
   globals.oClient->OpenCn();
-  lblCustomer.SetCaption(globals.oClient->ClientName(CustShown));
+  lblCustomer.SetCaption(globals.oClient->ClientName(client_.number));
   globals.oClient->CloseCn();
   globals.InvoiceDirty = true;
 }
 
+/// Nothing could be read, and nothing of what is typed can be stored.
+void InvoiceDetail::ShowNone() {
+  globals.oInvoice->CloseCn();
+  client_ = {};
+  for (Label* label : {&lblInvoiceNum, &lblCustomer, &lblTotal}) label->SetCaption("");
+  for (TextBox* box : {&txtDate, &txtDescription, &txtSalesRep, &txtTerms, &txtShipDate, &txtShipCharge, &txtTrackNum,
+                       &txtDiscount, &txtInterest, &txtTax}) {
+    box->SetText("");
+  }
+  cmbShipType.SetText("");
+  globals.InvoiceDirty = false;
+}
+
 void InvoiceDetail::ShowShippingAndCharges() {
   const Object<Invoice> invoice = globals.oInvoice;
-  txtShipDate.SetText(convert.ToText(invoice->Shippingdate));
+  shippingDate_ = invoice->Shippingdate;
+  txtShipDate.SetText(convert.ToText(shippingDate_));
   txtShipCharge.SetText(convert.CurrencyText(invoice->ShippingCharge));
   cmbShipType.SetText(invoice->ShippingType);
   txtTrackNum.SetText(invoice->TrackingNum);
@@ -149,38 +171,74 @@ std::int32_t InvoiceDetail::NumberShown() const {
   return ValLong(lblInvoiceNum.Caption());
 }
 
+/// Raises 5 where no invoice is shown, or one that has gone.
+void InvoiceDetail::RequireInvoice() const {
+  if (NumberShown() == 0 || client_.number < 1) Raise(ErrorNumber::InvalidProcedureCall);
+}
+
+/// What other screens are to act on.
+void InvoiceDetail::SelectShown() {
+  SelectInvoice(program, {NumberShown(), date_, txtDescription.Text(), client_});
+}
+
 // Saving.
 
 void InvoiceDetail::btnSave_Click() {
-  Trapped("InvoiceDetail.btnSave_Click -", [&] {
-    globals.oInvoice->OpenCn();
-    TakeFromControls();
-    globals.oInvoice->SaveInvoiceAccess(NumberShown());
-    lblTotal.SetCaption(convert.CurrencyText(globals.oInvoice->InvoiceTotal(NumberShown())));
-    globals.oInvoice->CloseCn();
-    ShowBalanceDue(program);
-    globals.InvoiceDirty = false;
-  });
+  Save();
 }
 
-// A date that is none leaves the earlier one. Money counts by its leading number: text that begins with the currency's
-// symbol counts as 0.
+/// True if the head is stored. After a refusal the saving goes on as if it were.
+bool InvoiceDetail::Save() {
+  bool stored = false;
+  Trapped("InvoiceDetail.btnSave_Click -", [&] {
+    RequireInvoice();
+    TakeFromControls();
+    const Object<Invoice> invoice = globals.oInvoice;
+    invoice->OpenCn();
+    stored = headIsStored_ = invoice->SaveInvoiceAccess(NumberShown());
+    date_ = invoice->InvoiceDate;
+    shippingDate_ = invoice->Shippingdate;
+    lblTotal.SetCaption(convert.CurrencyText(invoice->InvoiceTotal(NumberShown())));
+    auto& sales = screens.Touch<CustInvoices>();
+    sales.RefreshInvoice({NumberShown(), date_, invoice->description, client_});
+    invoice->CloseCn();
+    sales.ShowBalanceDue();
+    globals.InvoiceDirty = false;
+  });
+  return stored;
+}
+
+// A box without a date leaves the invoice's own.
 void InvoiceDetail::TakeFromControls() {
   const Object<Invoice> invoice = globals.oInvoice;
-  const auto money = [](const TextBox& box) { return Currency::FromDouble(Val(box.Text())); };
+  const auto dateIn = [&](const TextBox& box, Date own) {
+    return convert.IsDate(box.Text()) ? convert.ToDate(box.Text()) : own;
+  };
+  lblLessStored.SetCaption("");
   invoice->InvoiceNum = NumberShown();
-  invoice->CustNum = CustShown;
-  if (convert.IsDate(txtDate.Text())) invoice->InvoiceDate = convert.ToDate(txtDate.Text());
+  invoice->CustNum = client_.number;
+  invoice->InvoiceDate = dateIn(txtDate, date_);
   invoice->description = txtDescription.Text();
   invoice->SalesRep = txtSalesRep.Text();
-  invoice->Discount = Val(txtDiscount.Text());
-  if (convert.IsDate(txtShipDate.Text())) invoice->Shippingdate = convert.ToDate(txtShipDate.Text());
-  invoice->ShippingCharge = money(txtShipCharge);
+  invoice->Discount = convert.LeadingNumber(txtDiscount.Text());
+  invoice->Shippingdate = dateIn(txtShipDate, shippingDate_);
+  invoice->ShippingCharge = MoneyIn(txtShipCharge, "Shipping Charge");
   invoice->ShippingType = cmbShipType.Text();
   invoice->TrackingNum = txtTrackNum.Text();
   invoice->Terms = txtTerms.Text();
-  invoice->Interest = money(txtInterest);
-  invoice->Tax = money(txtTax);
+  invoice->Interest = MoneyIn(txtInterest, "Interest Charge");
+  invoice->Tax = MoneyIn(txtTax, "Sales Tax");
+}
+
+/// The leading number, which is 0 where the text begins with the currency's symbol. The user is to know if that is less
+/// than the box shows.
+Currency InvoiceDetail::MoneyIn(const TextBox& box, const char* label) {
+  const Currency money = Currency::FromDouble(convert.LeadingNumber(box.Text()));
+  if (convert.IsNumeric(box.Text()) && convert.ToCurrency(box.Text()) > money) {
+    const std::string before = lblLessStored.Caption();
+    lblLessStored.SetCaption((before.empty() ? "Stored less than shown: " : before + ", ") + label);
+  }
+  return money;
 }
 
 // Totals.
@@ -189,7 +247,7 @@ double InvoiceDetail::DiscountRate() const {
   return convert.ToDouble(txtDiscount.Text()) / 100;
 }
 
-// The invoice's own total by what stands on the screen: two decimals a line, and no charges without lines.
+// From what the screen shows: two decimals a line, and no charges without lines.
 void InvoiceDetail::GetInvoiceTotal() {
   Trapped("InvoiceDetail.GetInvoiceTotal -", [&] {
     double total = 0;
@@ -224,29 +282,28 @@ void InvoiceDetail::GetTax() {
 }
 
 void InvoiceDetail::txtShipCharge_LostFocus() {
-  if (Val(txtShipCharge.Text()) > 0) txtShipCharge.SetText(convert.CurrencyText(txtShipCharge.Text()));
+  if (convert.LeadingNumber(txtShipCharge.Text()) > 0)
+    txtShipCharge.SetText(convert.CurrencyText(txtShipCharge.Text()));
 }
 
 // Leaving.
 
-/// Asks about changes of the head. False if the user would rather stay.
+/// Asks about changes of the head. False if the user wants to stay, or wants to save what is refused.
 bool InvoiceDetail::OfferToSave() {
   if (!globals.InvoiceDirty) return true;
+  SelectShown();
   const Answer answer = AskYesNoCancel("Save changes to invoice?", "Save Invoice?");
   if (answer == Answer::Cancel) return false;
-  if (answer == Answer::Yes) btnSave_Click();
-  globals.InvoiceDirty = false;
-  return true;
+  globals.InvoiceDirty = answer == Answer::Yes && !Save();
+  return !globals.InvoiceDirty;
 }
 
 void InvoiceDetail::btnPrint_Click() {
   Trapped("InvoiceDetail.btnPrint_Click -", [&] {
+    RequireInvoice();
     if (!OfferToSave()) return;
-    globals.CurInvoiceNum = NumberShown();
-    // The report is made out to the client selected, who may be another than this invoice's.
-    const std::int32_t selected = std::exchange(globals.CurCustNum, CustShown);
+    SelectShown();
     screens.Reopen(screen::kPrtInvoice);
-    globals.CurCustNum = selected;
     if (Form* report = screens.Find(screen::kPrtInvoice)) report->Refresh();
   });
 }
@@ -254,16 +311,15 @@ void InvoiceDetail::btnPrint_Click() {
 // The open invoice is neither saved nor asked about.
 void InvoiceDetail::btnNew_Click() {
   Trapped("InvoiceDetail.btnNew_Click -", [&] {
-    globals.CurInvoiceNum = 0;
-    globals.CurInvoiceDate = desktop.Today();
-    globals.CurClientName.clear();
-    globals.CurInvoiceDesc.clear();
+    if (!SelectNewInvoice(program, client_)) return;
+    // An item picked for this invoice must not go into the next.
+    screens.Unload(screen::kInvSearch);
     Form_Load();
   });
 }
 
 void InvoiceDetail::btnPayments_Click() {
-  if (screens.Close(Receipts::kName)) screens.Show(Receipts::kName);
+  ShowReceipts(program, client_);
 }
 
 void InvoiceDetail::btnExit_Click() {
@@ -275,6 +331,7 @@ void InvoiceDetail::btnExit_Click() {
 }
 
 void InvoiceDetail::ReloadSales() {
+  SelectShown();
   screens.Touch<CustInvoices>().Hide();
   desktop.DoEvents();
   GetInvoices(program, Date());

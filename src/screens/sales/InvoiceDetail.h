@@ -6,6 +6,7 @@
 
 #include "forms/Form.h"
 #include "screens/RowEditing.h"
+#include "screens/clients/ClientShown.h"
 
 namespace norvane {
 
@@ -13,7 +14,7 @@ namespace norvane {
 ///
 /// The head is stored by the save button, lines as soon as they are picked or left. Stock moves at the end of a cell's
 /// edit, before the line is stored.
-class InvoiceDetail : public Form {
+class InvoiceDetail : public Form, public ClientScreen {
  public:
   static constexpr const char* kName = screen::kInvoiceDetail;
   explicit InvoiceDetail(Program& program);
@@ -44,17 +45,20 @@ class InvoiceDetail : public Form {
   Grid ItemList{*this, "ItemList", GridKind::Editable};
   Button btnNewItem{*this, "btnNewItem", {.toolTip = "Add inventory item to invoice", .icon = "add"}};
   Button btnRemove{*this, "btnRemove", {.toolTip = "Delete Selected Item", .icon = "remove"}};
+  Label lblLessStored{*this, "lblLessStored"};
   Label lblTotal{*this, "lblTotal"};
 
-  /// Shows the total of what stands on the screen; the database isn't asked. Reports its errors and leaves the old
+  bool Shows(std::int32_t custNum) const override { return client_.number == custNum; }
+  /// The invoice's number; 0 if none could be read.
+  std::int32_t NumberShown() const;
+
+  /// Shows the total of what is on the screen; the database isn't asked. Reports its errors and leaves the old
   /// total then.
   void GetInvoiceTotal();
-  /// Writes a line to the database under the key `transNum`, 0 for a new line, and the key into the grid.
-  void StoreLine(std::int32_t row, std::int32_t transNum);
-  /// Whether QtyLeft says that the line's item has run out.
-  bool IsShort() const;
-  /// Tells that the line's item has run out.
-  void ReportBackOrder(std::int32_t row);
+  /// Takes one unit of an item out of stock and adds it as a new line, which is stored at once. A box
+  /// reports the last unit and a back order. False if the stock can't be counted or there is no head for the line;
+  /// nothing is added then. Raises 5 where no invoice is shown.
+  bool AddItem(std::int32_t itemNum, const std::string& description, const std::string& price);
 
  private:
   layout::Node Head();
@@ -68,11 +72,15 @@ class InvoiceDetail : public Form {
   void OpenInvoice();
   void BeginInvoice();
   void ShowShippingAndCharges();
+  void ShowNone();
   void ListItems();
-  std::int32_t NumberShown() const;
+  void RequireInvoice() const;
+  void SelectShown();
 
   void btnSave_Click();
+  bool Save();
   void TakeFromControls();
+  Currency MoneyIn(const TextBox& box, const char* label);
   void btnTax_Click();
   void GetTax();
   double DiscountRate() const;
@@ -89,8 +97,14 @@ class InvoiceDetail : public Form {
   void ItemList_BeforeEdit(int row, int col);
   void ItemList_AfterEdit(int row, int col);
   void ChangeQuantity(int row);
+  bool TakeFromStock(std::int32_t itemNum, std::int32_t before, std::int32_t after);
+  bool IsShort() const;
+  void ReportBackOrder(std::int32_t row);
   void ItemList_LeaveCell();
   void StoreRow(std::int32_t row);
+  void StoreLine(std::int32_t row, std::int32_t transNum);
+  std::int32_t AddLine(std::int32_t itemNum, const std::string& description, const std::string& price);
+  void MarkBackOrder(std::int32_t row);
   void btnNewItem_Click();
   void btnRemove_Click();
 
@@ -100,8 +114,10 @@ class InvoiceDetail : public Form {
   std::string BackOrderText;                        ///< of the line being loaded, empty for none
   std::map<std::int32_t, std::int32_t> CountedQty;  ///< by line: the quantity that the stock was last counted with
   bool SkipTotal = false;                           ///< the first LeaveCell after a load doesn't total
-  std::int32_t CustShown = globals.CurCustNum;      ///< whose invoice it is, whoever is selected meanwhile
-  bool NewInvoice = false;                          ///< the head isn't stored yet
+  ClientShown client_;                              ///< whose invoice it is; none if the invoice has gone
+  Date date_, shippingDate_;                        ///< the invoice's own, for boxes that hold no date
+  bool NewInvoice = false;                          ///< the invoice is a new one that no item has been added to
+  bool headIsStored_ = false;
 };
 
 }  // namespace norvane

@@ -84,16 +84,22 @@ void InvoiceDetail::ItemList_AfterEdit(int row, int col) {
 void InvoiceDetail::ChangeQuantity(int row) {
   globals.EditQty = convert.ToLong(ItemList.Cell(row, kQuantity));
   const std::int32_t itemNum = convert.ToLong(ItemList.Cell(row, kItemNum));
-  globals.oInventory->OpenCn();
-  globals.QtyLeft = globals.oInventory->QtyInStock(itemNum, globals.BeforeQty, globals.EditQty);
-  globals.oInventory->CloseCn();
-  if (!IsShort()) return;
+  if (!TakeFromStock(itemNum, globals.BeforeQty, globals.EditQty) || !IsShort()) return;
   const double change = static_cast<double>(globals.EditQty) - globals.BeforeQty;
   const double stockBefore = change + globals.QtyLeft;
   ReportBackOrder(row);
   double backOrder = Val(ItemList.Cell(row, kBackOrder)) - change;
   if (stockBefore > 0) backOrder += stockBefore;
   ItemList.SetCell(row, kBackOrder, convert.ToText(backOrder));
+}
+
+/// False after a report.
+bool InvoiceDetail::TakeFromStock(std::int32_t itemNum, std::int32_t before, std::int32_t after) {
+  const Object<Inventory> inventory = globals.oInventory;
+  inventory->OpenCn();
+  globals.QtyLeft = inventory->QtyInStock(itemNum, before, after);
+  inventory->CloseCn();
+  return inventory->StockCounted;
 }
 
 bool InvoiceDetail::IsShort() const {
@@ -120,10 +126,11 @@ void InvoiceDetail::ItemList_LeaveCell() {
 
 // Storing.
 
-// Whatever the row holds is stored; there is no test whether it is complete. The first line takes the head along.
+// Whatever the row holds is stored; there is no test whether it is complete. The first line takes the head along, and
+// every line one that a refused save has removed.
 void InvoiceDetail::StoreRow(std::int32_t row) {
   StoreLine(row, ValLong(ItemList.Cell(row, kTransNum)));
-  if (row == 1) btnSave_Click();
+  if (row == 1 || !headIsStored_) btnSave_Click();
 }
 
 void InvoiceDetail::StoreLine(std::int32_t row, std::int32_t transNum) {
@@ -144,18 +151,52 @@ void InvoiceDetail::StoreLine(std::int32_t row, std::int32_t transNum) {
   rows_.MarkStored(row);
 }
 
-// Buttons.
+// Items that come and go.
 
 void InvoiceDetail::btnNewItem_Click() {
   Trapped("InvoiceDetail.btnNewItem_Click -", [&] {
-    if (NewInvoice) {
-      // No line exists without its head.
-      btnSave_Click();
-      NewInvoice = false;
-    }
+    RequireInvoice();
+    // No line exists without its head.
+    if ((NewInvoice || !headIsStored_) && !Save()) return;
+    NewInvoice = false;
     globals.CurCatNum = 1;
     screens.Show(InvSearch::kName, {.owner = this});
   });
+}
+
+// The unit leaves stock now, whether or not anything of the invoice is saved again.
+bool InvoiceDetail::AddItem(std::int32_t itemNum, const std::string& description, const std::string& price) {
+  RequireInvoice();
+  if (!headIsStored_ && !Save()) return false;
+  if (!TakeFromStock(itemNum, 0, 1)) return false;
+  const std::int32_t row = AddLine(itemNum, description, price);
+  MarkBackOrder(row);
+  StoreLine(row, 0);
+  GetInvoiceTotal();
+  return true;
+}
+
+// Moving the cursor to the new row stores an edit that waits in another one.
+std::int32_t InvoiceDetail::AddLine(std::int32_t itemNum, const std::string& description, const std::string& price) {
+  ItemList.SetRows(ItemList.Rows() + 1);
+  ItemList.SetRow(ItemList.Rows() - 1);
+  const int row = globals.RowSelected = ItemList.Row();
+  const std::string charge = convert.CurrencyText(std::string_view(price));
+  ItemList.SetCell(row, kItemNum, convert.ToText(itemNum));
+  ItemList.SetCell(row, kDescription, description);
+  ItemList.SetCell(row, kCharge, charge);
+  ItemList.SetCell(row, kQuantity, "1");
+  ItemList.SetCell(row, kTotal, charge);
+  return row;
+}
+
+void InvoiceDetail::MarkBackOrder(std::int32_t row) {
+  ItemList.SetCell(row, kBackOrder, IsShort() ? "-1" : "");
+  if (IsShort()) {
+    ReportBackOrder(row);
+  } else if (globals.QtyLeft == 0) {
+    desktop.Say("Last " + ItemList.Cell(row, kDescription) + " in Inventory added to Invoice.");
+  }
 }
 
 // The units that the line took stay out of stock.

@@ -8,6 +8,7 @@
 #include "data/Invoice.h"
 #include "forms/DatePair.h"
 #include "screens/KeyedList.h"
+#include "screens/RowOf.h"
 #include "screens/clients/CustSearch.h"
 #include "screens/sales/CustInvoices.h"
 #include "screens/sales/PaymentDate.h"
@@ -19,7 +20,7 @@ namespace {
 constexpr const char* kSelectedClient = CustInvoices::kSelectedClient;
 constexpr const char* kAllClients = CustInvoices::kAllClients;
 constexpr const char* kSection = "RECEIPTS";
-/// CurCustNum while the payments of all clients are listed.
+/// The number in place of a client's while the payments of all clients are listed.
 constexpr std::int32_t kEveryClient = -1;
 
 }  // namespace
@@ -66,7 +67,7 @@ void Receipts::Form_Load() {
     SetDates(DTPicker1, txtSinceDate, Date::FromYearMonthDay((desktop.Today() - 365).Year(), 1, 1));
     SinceDate = DTPicker1.Value();
     for (const char* item : {kSelectedClient, kAllClients}) CmbReceipt.AddItem(item);
-    CmbReceipt.SetText(globals.CurCustNum == kEveryClient ? kAllClients : kSelectedClient);
+    client_ = SelectedClient(globals);
     SetPayments();
     screens.Unload(screen::kGettingReceipts);
   });
@@ -74,6 +75,9 @@ void Receipts::Form_Load() {
 
 void Receipts::SetPayments() {
   Trapped("Receipts.SetPayments -", [&] {
+    // The row that it was to find a client for goes.
+    screens.Unload(CustSearch::kName);
+    CmbReceipt.SetText(client_.number == kEveryClient ? kAllClients : kSelectedClient);
     ReadPayments();
     SetUpGrid();
     ReadCards();
@@ -86,7 +90,8 @@ void Receipts::ReadPayments() {
   const Object<Invoice> payments = globals.oInvoice;
   payments->OpenCn();
   if (std::exchange(DeletePending, false)) payments->DeletePayment(SelPayNum);
-  rsPayments = payments->AllPayments(SinceDate, globals.CurCustNum);
+  SelPayNum = 0;
+  rsPayments = payments->AllPayments(SinceDate, client_.number);
   payments->CloseCn();
 }
 
@@ -109,7 +114,7 @@ void Receipts::SetUpGrid() {
 void Receipts::ReadCards() {
   const Object<Client> client = globals.oClient;
   client->OpenCn();
-  client->GetClient(globals.CurCustNum);
+  clientIsKnown_ = client->GetClient(client_.number);
   CardType1 = client->PaymentType1;
   CardType2 = client->PaymentType2;
   CardNo1 = client->CardNum1;
@@ -149,19 +154,25 @@ void Receipts::btnGo_Click() {
   Trapped("Receipts.btnGo_Click -", [&] {
     SinceDate = convert.ToDateFromMask(txtSinceDate.Text());
     if (ShowsAllClients()) {
-      globals.CurCustNum = kEveryClient;
+      client_ = {kEveryClient, kAllClients};
     } else {
       TakeClientOfRow();
     }
+    SelectClient(program, client_);
     SetPayments();
   });
 }
 
-// The empty row at the end has no client: the one that is selected stays, if any is.
+// The empty row at the end has no client: the one whose payments are listed stays, if it is one.
 void Receipts::TakeClientOfRow() {
-  const std::string custNum = PaymentList.Cell(PaymentList.Row(), kCustNum);
-  if (custNum.empty() && globals.CurCustNum != kEveryClient) return;
-  globals.CurCustNum = convert.ToLong(custNum);
+  const int row = PaymentList.Row();
+  const std::string custNum = PaymentList.Cell(row, kCustNum);
+  if (custNum.empty() && client_.number != kEveryClient) return;
+  client_ = {convert.ToLong(custNum), PaymentList.Cell(row, kClient)};
+}
+
+bool Receipts::Shows(std::int32_t custNum) const {
+  return client_.number == custNum || RowOf(PaymentList, kCustNum, convert.ToText(custNum)) > 0;
 }
 
 // Editing.
@@ -171,8 +182,7 @@ void Receipts::PaymentList_Click() {
     const int row = PaymentList.Row();
     const std::string custNum = PaymentList.Cell(row, kCustNum);
     if (row != 0 && !custNum.empty()) {
-      globals.CurCustNum = convert.ToLong(custNum);
-      globals.CurClientName = PaymentList.Cell(row, kClient);
+      SelectClient(program, {convert.ToLong(custNum), PaymentList.Cell(row, kClient)});
     }
     SelPayNum = ValLong(PaymentList.Cell(row, kTransNum));
     const std::string date = PaymentList.Cell(row, kDate);
@@ -188,7 +198,7 @@ void Receipts::PaymentList_GotFocus() {
   });
 }
 
-// A picker wrote into the row: the cursor goes on behind that cell, and the row is treated as edited.
+// A picker wrote into the row: the cursor goes on after that cell, and the row is treated as edited.
 void Receipts::AfterPick(bool& picked, int col) {
   if (!picked) return;
   PaymentList.SetCol(col);
@@ -200,13 +210,11 @@ bool Receipts::AreFilled(int row, std::initializer_list<int> cols) const {
   return std::none_of(cols.begin(), cols.end(), [&](int col) { return PaymentList.Cell(row, col).empty(); });
 }
 
-// A row that is complete counts as started, and a new empty one stands at the end.
+// Among one client's payments a row without a client gets that one; else it waits for the picker. A row that is
+// complete counts as started, and a new empty one follows it.
 void Receipts::PaymentList_AfterEdit(int row, int col) {
   rows_.AfterEdit(row, [&] {
-    if (!ShowsAllClients()) {
-      PaymentList.SetCell(row, kCustNum, convert.ToText(globals.CurCustNum));
-      PaymentList.SetCell(row, kClient, globals.CurClientName);
-    }
+    if (!ShowsAllClients() && clientIsKnown_ && PaymentList.Cell(row, kCustNum).empty()) FillClient(row, client_);
     if (AreFilled(row, {kDate, kType, kClient, kAmount})) {
       PaymentList.SetCell(row, kAmount, convert.CurrencyText(std::string_view(PaymentList.Cell(row, kAmount))));
       if (PaymentList.Cell(row, kTransNum).empty()) {
@@ -219,6 +227,11 @@ void Receipts::PaymentList_AfterEdit(int row, int col) {
   });
 }
 
+void Receipts::FillClient(int row, const ClientShown& client) {
+  PaymentList.SetCell(row, kCustNum, convert.ToText(client.number));
+  PaymentList.SetCell(row, kClient, client.name);
+}
+
 void Receipts::FillCardNumber(int row) {
   const std::string key = PaymentList.Cell(row, kType);
   if (key == "1") PaymentList.SetCell(row, kCheckNum, CardNo1);
@@ -229,7 +242,7 @@ void Receipts::PaymentList_CellButtonClick(int row, int col) {
   Trapped("Receipts.PaymentList_CellButtonClick -", [&] {
     if (col == kClient) {
       globals.RowSelected = row;
-      screens.Show(CustSearch::kName, {.owner = this});
+      screens.Reopen(CustSearch::kName, {.owner = this});
       screens.Touch<CustSearch>().CustList.SetFocus();
     }
     if (PaymentList.Col() == kDate) {
@@ -237,6 +250,13 @@ void Receipts::PaymentList_CellButtonClick(int row, int col) {
       screens.Show(PaymentDate::kName, {.owner = this, .modal = true});
     }
   });
+}
+
+void Receipts::TakeClient(int row, const ClientShown& client) {
+  PaymentList.SetRow(row);
+  FillClient(row, client);
+  rows_.MarkChanged(row);
+  globals.PayClientSet = true;
 }
 
 // All is read before the connection opens, so that what can't be read leaves none open.
@@ -258,12 +278,14 @@ void Receipts::StoreRow(std::int32_t row) {
 
 // Buttons.
 
-// A row must have been clicked; the one that the question names goes, also if the cursor came to it without a click.
+// A row must have been clicked since the list was filled. The payment that the question names is deleted, also if the
+// cursor came to it without a click.
 void Receipts::btnDelete_Click() {
   Trapped("Receipts.btnDelete_Click -", [&] {
     const int row = PaymentList.Row();
-    if (SelPayNum == 0 || PaymentList.Cell(row, kAmount).empty()) return;
+    if (SelPayNum == 0) return;
     SelPayNum = ValLong(PaymentList.Cell(row, kTransNum));
+    if (SelPayNum == 0) return;
     const std::string amount = convert.CurrencyText(convert.ToCurrency(PaymentList.Cell(row, kAmount)));
     if (!AskYesNo("Delete Payment by " + PaymentList.Cell(row, kClient) + " in the amount of " + amount + "?",
                   "Delete payment?")) {
@@ -274,13 +296,13 @@ void Receipts::btnDelete_Click() {
   });
 }
 
-// The receipt is made out to the client and the date of the marked payment, whatever is selected elsewhere.
+// A receipt is made out to the client and the date of the payment marked.
 void Receipts::btnPrint_Click() {
-  if (PaymentList.Cell(PaymentList.Row(), kDate).empty()) {
-    desktop.Say("Select payment with valid date for printing receipt.");
-  } else {
-    PaymentList_Click();
+  PaymentList_Click();
+  if (AreFilled(PaymentList.Row(), {kDate, kCustNum})) {
     screens.Reopen(screen::kPrtReceipt);
+  } else {
+    desktop.Say("Select payment with valid date for printing receipt.");
   }
 }
 

@@ -6,12 +6,13 @@
 #include "core/Object.h"
 #include "forms/Form.h"
 #include "screens/RowEditing.h"
+#include "screens/clients/ClientShown.h"
 #include "store/Recordset.h"
 
 namespace norvane {
 
 /// The payments received since a date, of the selected client or of all, edited in place.
-class Receipts : public Form {
+class Receipts : public Form, public ClientScreen {
  public:
   static constexpr const char* kName = screen::kReceipts;
   explicit Receipts(Program& program);
@@ -28,6 +29,10 @@ class Receipts : public Form {
   Button btnNew{*this, "btnNew", {.toolTip = "Add new client payment", .icon = "add"}};
   Button btnDelete{*this, "btnDelete", {.toolTip = "Delete selected client payment", .icon = "delete"}};
   Grid PaymentList{*this, "PaymentList", GridKind::Editable};
+
+  bool Shows(std::int32_t custNum) const override;
+  /// The picker has found the client of a row: the cursor goes to the row, and the row waits to be stored.
+  void TakeClient(int row, const ClientShown& client);
 
  private:
   void Form_Load() override;
@@ -48,6 +53,7 @@ class Receipts : public Form {
   void AfterPick(bool& picked, int col);
   void PaymentList_AfterEdit(int row, int col);
   bool AreFilled(int row, std::initializer_list<int> cols) const;
+  void FillClient(int row, const ClientShown& client);
   void FillCardNumber(int row);
   void PaymentList_CellButtonClick(int row, int col);
   void StoreRow(std::int32_t row);
@@ -59,10 +65,12 @@ class Receipts : public Form {
 
   RowEditing rows_;
   Object<Recordset> rsPayments;
-  int PayRow = 1;              ///< the next row while payments are listed, then the empty one at the end
-  Date SinceDate;              ///< the payments listed are later than this
-  std::int32_t SelPayNum = 0;  ///< of the row clicked last, 0 if it had none
-  bool DeletePending = false;  ///< the next listing deletes SelPayNum first
+  ClientShown client_;          ///< whose payments are listed; -1 for all clients'
+  bool clientIsKnown_ = false;  ///< it is one client, and was found
+  int PayRow = 1;               ///< the next row while payments are listed, then the empty one at the end
+  Date SinceDate;               ///< the payments listed are later than this
+  std::int32_t SelPayNum = 0;   ///< of the row clicked last, 0 if it had none
+  bool DeletePending = false;   ///< the next listing deletes SelPayNum first
   std::string CardType1, CardType2;
   std::string CardNo1, CardNo2;
 };

@@ -3,8 +3,6 @@
 #include <string_view>
 
 #include "core/Val.h"
-#include "data/Inventory.h"
-#include "data/Invoice.h"
 #include "data/SharedLists.h"
 #include "screens/sales/InvoiceDetail.h"
 #include "screens/stock/CategoryItem.h"
@@ -69,53 +67,13 @@ void InvSearch::btnOK_Click() {
     globals.BeforeQty = 1;
     const int picked = InventoryList.Row();
     if (picked == 0) return;
-    TakeFromStock(picked);
     auto& invoice = screens.Touch<InvoiceDetail>();
-    AddLine(invoice, picked);
-    MarkBackOrder(invoice);
-    invoice.StoreLine(globals.RowSelected, 0);
-    invoice.GetInvoiceTotal();
+    const auto cell = [&](ItemColumn column) { return InventoryList.Cell(picked, column); };
+    if (!invoice.AddItem(convert.ToLong(cell(kItemNum)), cell(kDescription), cell(kCharge))) return;
     Unload();
     invoice.Refresh();
     invoice.ItemList.SetFocus();
   });
-}
-
-// The unit leaves stock now, whether or not the invoice is ever saved.
-void InvSearch::TakeFromStock(int picked) {
-  const std::int32_t itemNum = convert.ToLong(InventoryList.Cell(picked, 0));
-  globals.oInventory->OpenCn();
-  globals.QtyLeft = globals.oInventory->QtyInStock(itemNum, 0, 1);
-  globals.oInventory->CloseCn();
-}
-
-// Moving the cursor to the new row makes the invoice store an edit that waits in another one.
-void InvSearch::AddLine(InvoiceDetail& invoice, int picked) {
-  Grid& lines = invoice.ItemList;
-  lines.SetRows(lines.Rows() + 1);
-  lines.SetRow(lines.Rows() - 1);
-  globals.RowSelected = lines.Row();
-  const auto fill = [&](int col, std::string_view text) { lines.SetCell(globals.RowSelected, col, text); };
-  const std::string price = convert.CurrencyText(InventoryList.Cell(picked, 2));
-  fill(InvoiceDetail::kItemNum, InventoryList.Cell(picked, 0));
-  fill(InvoiceDetail::kDescription, InventoryList.Cell(picked, 1));
-  fill(InvoiceDetail::kCharge, price);
-  fill(InvoiceDetail::kQuantity, "1");
-  fill(InvoiceDetail::kTotal, price);
-}
-
-void InvSearch::MarkBackOrder(InvoiceDetail& invoice) {
-  const int row = globals.RowSelected;
-  Grid& lines = invoice.ItemList;
-  if (invoice.IsShort()) {
-    lines.SetCell(row, InvoiceDetail::kBackOrder, "-1");
-    invoice.ReportBackOrder(row);
-  } else {
-    lines.SetCell(row, InvoiceDetail::kBackOrder, "");
-    if (globals.QtyLeft == 0) {
-      desktop.Say("Last " + lines.Cell(row, InvoiceDetail::kDescription) + " in Inventory added to Invoice.");
-    }
-  }
 }
 
 void InvSearch::btnInventory_Click() {

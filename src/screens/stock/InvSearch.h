@@ -4,13 +4,14 @@
 
 namespace norvane {
 
-class InvoiceDetail;
-
-/// Picks an item and adds one unit of it to the invoice that stands open, as a new line that is stored at once.
+/// Picks an item and adds one unit of it to the invoice that is open, as a new line that is stored at once.
 class InvSearch : public Form {
  public:
   static constexpr const char* kName = screen::kInvSearch;
   explicit InvSearch(Program& program);
+
+  /// The columns of InventoryList.
+  enum ItemColumn { kItemNum, kDescription, kCharge, kInStock };
 
   ComboBox cmbCategory{*this, "cmbCategory", ComboStyle::ItemsOnly, 32};
   Button btnInventory{*this, "btnInventory", {.toolTip = "Add to/Edit Inventory", .icon = "inventory"}};
@@ -23,9 +24,6 @@ class InvSearch : public Form {
   void ListItems();
   void cmbCategory_Click();
   void btnOK_Click();
-  void TakeFromStock(int picked);
-  void AddLine(InvoiceDetail& invoice, int picked);
-  void MarkBackOrder(InvoiceDetail& invoice);
   void btnInventory_Click();
 };
 

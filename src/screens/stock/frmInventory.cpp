@@ -44,8 +44,8 @@ void frmInventory::Form_Load() {
     desktop.DoEvents();
     screens.Show(screen::kGettingInventory);
     desktop.DoEvents();
-    CatShown = globals.CurCatNum;
-    GetInventory(workspace, CatShown, SelItemNum);
+    catShown_ = globals.CurCatNum;
+    GetInventory(workspace, catShown_, SelItemNum);
     SetForm();
     screens.Unload(screen::kGettingInventory);
   });
@@ -107,8 +107,8 @@ void frmInventory::FillCategories() {
 
 void frmInventory::cmbCategory_Click() {
   Trapped("frmInventory.cmbCategory_Click -", [&] {
-    globals.CurCatNum = CatShown = ValLong(std::string_view(cmbCategory.Text()).substr(0, 4));
-    GetInventory(workspace, CatShown, SelItemNum);
+    globals.CurCatNum = catShown_ = ValLong(std::string_view(cmbCategory.Text()).substr(0, 4));
+    GetInventory(workspace, catShown_, SelItemNum);
     InventoryList.SetRows(1);
     ItemRow = 1;
     const std::int32_t count = globals.rsInventory->RecordCount();
@@ -157,7 +157,7 @@ void frmInventory::StoreRow(std::int32_t row) {
     if (InventoryList.Cell(row, col).empty()) InventoryList.SetCell(row, col, "0");
   }
   const Object<Inventory> item = globals.oInventory;
-  item->Category = CatShown;
+  item->Category = catShown_;
   item->description = InventoryList.Cell(row, kDescription);
   item->charge = convert.ToCurrency(InventoryList.Cell(row, kCharge));
   item->Par = convert.ToLong(InventoryList.Cell(row, kPar));
@@ -189,7 +189,10 @@ void frmInventory::btnDelete_Click() {
     }
     const std::string category = cmbCategory.Text();
     globals.InventoryStale = true;
-    GetInventory(workspace, globals.CurCatNum, SelItemNum);
+    GetInventory(workspace, catShown_, SelItemNum);
+    // The number may be given to another item.
+    SelItemNum = 0;
+    SelItemName.clear();
     SetForm();
     cmbCategory.SetText(category);
     cmbCategory_Click();

@@ -43,7 +43,7 @@ class frmInventory : public Form {
   void Form_Unload() override;
 
   RowEditing rows_;
-  std::int32_t CatShown = 0;    ///< the category listed; CurCatNum may be what another screen picked since
+  std::int32_t catShown_ = 0;   ///< the category listed; CurCatNum may be what another screen picked since
   int ItemRow = 1;              ///< the next row while items are loaded
   std::int32_t SelItemNum = 0;  ///< of the row clicked last, 0 if it had no key
   std::string SelItemName;

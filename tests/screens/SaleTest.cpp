@@ -43,6 +43,7 @@ TEST_F(SaleTest, GoesFromTheClientToASavedInvoiceAndBackToNothing) {
   EXPECT_EQ(database.Rows("SELECT CustNum, Date, Description, Tax, ShippingCharge FROM tb_Invoice").at(0),
             "1003|46348|Spring order|25000|0");
   EXPECT_EQ(Sheet().lblTotal.Caption(), "$52.50");
+  EXPECT_EQ(Sheet().lblLessStored.Caption(), "Stored less than shown: Shipping Charge");
 
   // Closing shows it among the client's sales, with what is owed in red.
   Sheet().btnExit.Press();
@@ -78,15 +79,16 @@ class ContinentalSaleTest : public SalesOffice {
 
 TEST_F(ContinentalSaleTest, KeepsMoneyWhoseSymbolStandsBehind) {
   AddInvoice(1001, 1003, kNewYear + 40);
-  database.Execute("UPDATE tb_Invoice SET Tax = 30000, ShippingCharge = 70000, Interest = 20000");
+  database.Execute("UPDATE tb_Invoice SET Tax = 37500, ShippingCharge = 75000, Interest = 9900, Discount = 12.5");
   Start();
   ListAll();
-  EXPECT_EQ(Sales().InvoiceList.Cell(1, 0) + " " + Sales().InvoiceList.Cell(1, 5), "10.02.2026 22,00 €");
+  EXPECT_EQ(Sales().InvoiceList.Cell(1, 0) + " " + Sales().InvoiceList.Cell(1, 5), "10.02.2026 20,99 €");
   InvoiceDetail& sheet = Open(1001);
-  EXPECT_EQ(sheet.txtDate.Text() + " " + sheet.txtShipCharge.Text(), "10.02.2026 7,00 €");
+  EXPECT_EQ(sheet.txtDate.Text() + " " + sheet.txtShipCharge.Text(), "10.02.2026 7,50 €");
   sheet.btnSave.Press();
-  EXPECT_EQ(database.Rows("SELECT Date, Tax, ShippingCharge, Interest FROM tb_Invoice").at(0),
-            "46063|30000|70000|20000");
+  EXPECT_EQ(database.Rows("SELECT Date, Tax, ShippingCharge, Interest, Discount FROM tb_Invoice").at(0),
+            "46063|37500|75000|9900|12.5");
+  EXPECT_EQ(sheet.lblLessStored.Caption(), "");
 }
 
 }  // namespace

@@ -29,6 +29,7 @@ struct Message {
   norvane::Buttons buttons = Buttons::Ok;
   norvane::Icon icon = Icon::None;
   Answer preselected = Answer::Ok;
+  std::string details = "";  ///< what the user may ask to see besides
 };
 
 /// Everything that the screens need from outside. The windows implement it; tests have a scripted one.
@@ -40,6 +41,9 @@ class Desktop : public Reporter, public Clock {
   void Say(const std::string& text) { Ask({.text = text}); }
   /// A trapped error's box.
   void Report(const std::string& text) override { Say(text); }
+  void ReportWithCause(const std::string& text, const std::string& cause) override {
+    Ask({.text = text, .details = cause});
+  }
 
   // Windows. The form is the truth; these make the outside follow it.
   virtual void FormShown(Form& form) = 0;      ///< has become visible, or is to come forward if it was

@@ -76,6 +76,8 @@ class Grid : public Control {
   /// Whether the user may edit the column. At first all of a row-editing grid but its marker column 0, none of a list.
   void SetColEditable(int col, bool editable);
   bool ColEditable(int col) const;
+  /// Whether there is a column that the user may edit.
+  bool EditsInPlace() const;
 
   /// The content.
   std::string Cell(int row, int col) const;
@@ -97,14 +99,14 @@ class Grid : public Control {
   int TopRow() const;
   /// Cut back so that no room is left below the last row.
   void SetTopRow(int row);
-  /// How many data rows the display shows; whoever draws sets it. Moves of a page and scrolling into view go by it.
+  /// How many data rows the display shows, set by the side that draws. Moves of a page and scrolling into view use it.
   void SetVisibleRows(int rows);
   int VisibleRows() const;
-  /// Where the current cell stands within the grid.
+  /// The place of the current cell within the grid.
   Twips CellLeft() const;
   Twips CellTop() const;
   Twips CellWidth() const;
-  /// Whoever draws sets it.
+  /// Set by the side that draws.
   void SetRowHeight(Twips height);
 
   // Editing: what a user does to the current cell. BeginEdit is refused (false) where the cell cannot be edited.

@@ -17,7 +17,7 @@ std::vector<std::string_view> Split(std::string_view text) {
   }
 }
 
-/// Takes the prefix that tells the alignment off a heading.
+/// Cuts the sign of the alignment off a heading.
 ColumnAlignment TakeAlignment(std::string_view& heading) {
   if (heading.empty()) return ColumnAlignment::General;
   ColumnAlignment alignment = ColumnAlignment::General;
@@ -148,6 +148,11 @@ void Grid::SetColEditable(int col, bool editable) {
 bool Grid::ColEditable(int col) const {
   CheckCol(col);
   return model_->Column(col).editable;
+}
+
+bool Grid::EditsInPlace() const {
+  const auto& columns = model_->columns;
+  return std::any_of(columns.begin(), columns.end(), [](const GridColumn& column) { return column.editable; });
 }
 
 void Grid::SetColComboList(int col, std::string_view list) {

@@ -179,7 +179,7 @@ std::optional<QString> GridCellEditor::ContentByKey(const QKeyEvent& event, cons
 }
 
 bool GridCellEditor::BeginByKey(const QKeyEvent& event) {
-  if (!grid_ || grid_->Kind() != GridKind::Editable || grid_->Editing() || grid_->Row() < 1) return false;
+  if (!grid_ || grid_->Editing() || grid_->Row() < 1 || !grid_->ColEditable(grid_->Col())) return false;
   const auto content = ContentByKey(event, ToQt(grid_->Cell(grid_->Row(), grid_->Col())));
   if (!content || !grid_->BeginEdit()) return false;
   grid_->SetEditText(FromQt(*content));

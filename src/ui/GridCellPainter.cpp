@@ -22,7 +22,7 @@ QRect GridCellPainter::HelperRect(const QRect& cell) {
 }
 
 bool GridCellPainter::ShowsHelper(int row, int col) const {
-  if (!grid_ || row != grid_->Row() || grid_->Kind() != GridKind::Editable) return false;
+  if (!grid_ || row != grid_->Row()) return false;
   switch (grid_->Helper(col)) {
     case CellHelper::None:
       return false;
@@ -65,9 +65,9 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
 void GridCellPainter::PaintGround(QPainter& painter, const QStyleOptionViewItem& option,
                                   const QModelIndex& index) const {
   const auto& colours = Colours::Of(option.palette);
-  const bool isEditable = grid_->Kind() == GridKind::Editable;
+  const bool isEditable = grid_->EditsInPlace();
   const bool isCurrentRow = index.row() + 1 == grid_->Row();
-  const bool isMarker = isEditable && index.column() == 0;
+  const bool isMarker = grid_->Kind() == GridKind::Editable && index.column() == 0;
   const QColor& selected = grid_->HasFocus() ? colours.current : colours.idle;
   const QColor& plain = !isEditable && index.row() % 2 == 1 ? colours.stripe : colours.surface;
   painter.fillRect(option.rect, isCurrentRow ? selected : isMarker ? colours.band : plain);

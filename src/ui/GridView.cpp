@@ -212,7 +212,7 @@ void GridView::MeasureColumns() {
     if (grid_->ColWidth(col) == 0) continue;
     const auto at = static_cast<std::size_t>(col);
     const ColumnContent content = LookAt(*grid_, col, texts_, fontMetrics());
-    const bool hasHelper = grid_->Kind() == GridKind::Editable && grid_->Helper(col) != CellHelper::None;
+    const bool hasHelper = grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
     const int heading = content.heading + kHeadingPadding;
     const int text = std::max(content.width + 2 * GridCellPainter::kPadding + 1, heading) + helper;

@@ -13,8 +13,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "core/RuntimeError.h"
 #include "core/FileNames.h"
+#include "core/RuntimeError.h"
 #include "forms/Form.h"
 #include "ui/AltKeys.h"
 #include "ui/Convert.h"
@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kAppearMilliseconds = 250;
 constexpr int kNoticeMilliseconds = 250;
-constexpr int kSearchMilliseconds = 1000;    // letters typed within this time make one word to search for
+constexpr int kSearchMilliseconds = 1000;  // letters typed within this time make one word to search for
 
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
   switch (buttons) {
@@ -139,6 +139,7 @@ Answer QtDesktop::Ask(const Message& message) {
   QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text), ButtonsOf(message.buttons), asker);
   box.setWindowFlags(kDialogFrame);
   box.setTextFormat(Qt::PlainText);
+  if (!message.details.empty()) box.setDetailedText(ToQt(message.details));
   box.setDefaultButton(ButtonOf(message.preselected));
   box.setWindowModality(Qt::ApplicationModal);
   if (message.buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);

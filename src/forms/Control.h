@@ -55,7 +55,7 @@ class Control {
   Event<> GotFocus{form_};
   Event<> LostFocus{form_};
 
-  /// Told of each change after it has happened. One observer: the side that draws.
+  /// Called after each change. One observer: the side that draws.
   std::function<void(Aspect)> observer;
 
  protected:

@@ -41,7 +41,7 @@ namespace {
 
 constexpr std::string_view kEmptyMask = "__/__/__";
 
-/// The digits and blanks between the mask's slashes, as typed.
+/// The digits and spaces between the mask's slashes, as typed.
 std::array<std::string, 3> MaskPlaces(std::string_view text) {
   std::array<std::string, 3> places;
   const bool separated = text.find('/') != std::string_view::npos;

@@ -25,7 +25,7 @@ class Label : public Control {
   Colour colour_ = Colour::Black;
 };
 
-/// What a text box tells the drawing side of itself.
+/// Fixed properties of a text box.
 struct TextBoxStyle {
   int characters = 24;  ///< the width it asks for
   int lines = 1;        ///< above 1 it takes several lines
@@ -189,7 +189,7 @@ class MonthView : public Control {
   Date value_;
 };
 
-/// Groups what stands in it.
+/// Groups what is in it.
 class Frame : public Control {
  public:
   Frame(Form& form, std::string name, std::string caption = "")
@@ -200,7 +200,7 @@ class Frame : public Control {
   std::string caption_;
 };
 
-/// Tabs; what stands on each is told by the form's layout.
+/// Tabs; the form's layout says what is on each.
 class TabControl : public Control {
  public:
   TabControl(Form& form, std::string name) : Control(form, std::move(name)) {}
@@ -248,7 +248,7 @@ class Timer : public Control {
   int Interval() const { return milliseconds_; }
   /// Enabled, and its form is loaded.
   bool Running() const;
-  /// Starts it anew or stops it.
+  /// Starts it from zero, or stops it.
   void SetRunning(bool running);
 
   Event<> Tick{Parent()};

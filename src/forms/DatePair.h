@@ -15,7 +15,7 @@ namespace norvane {
 void WritePickedDate(DatePicker& picker, MaskedBox& box);
 /// Puts a date into both halves.
 void SetDates(DatePicker& picker, MaskedBox& box, Date date);
-/// Both, behind one label.
+/// Both, after one label.
 layout::Node DateField(std::string label, MaskedBox& box, DatePicker& picker);
 
 }  // namespace norvane

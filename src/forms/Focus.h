@@ -20,12 +20,12 @@ class Focus {
   /// LostFocus of the control that had it, then GotFocus of `control`; its form comes to the front. Nothing happens if
   /// the form waits for a modal one.
   void MoveTo(Control& control);
-  /// A form has become visible: it comes to the front, or right behind the modal form it has to wait for or
-  /// the form of its own that stands already.
+  /// A form has become visible: it comes to the front, or directly below the modal form it has to wait for or
+  /// a form of its own that is open already.
   void Enter(Form& form);
   /// A form has come to the front outside: LostFocus there, GotFocus here.
   void Activate(Form& form);
-  /// The form has gone from view: its owner or whoever was in front before comes forward.
+  /// The form has gone from view: its owner or the form that was in front before comes forward.
   void Leave(Form& form);
   /// The control can no longer have the focus: the next one in tab order gets it.
   void Abandon(Control& control);
@@ -39,7 +39,7 @@ class Focus {
   Form* form_ = nullptr;
   Control* control_ = nullptr;
   std::vector<Form*> order_;  ///< visible forms that can be in front, the front one last
-  int moves_ = 0;             ///< tells whether a handler has moved the focus meanwhile
+  int moves_ = 0;             ///< changes when a handler has moved the focus meanwhile
 };
 
 }  // namespace norvane

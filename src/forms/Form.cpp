@@ -130,7 +130,7 @@ void Form::WriteGeometry(std::string_view section) {
 
 void Form::Load() {
   loaded_ = true;
-  TellTimers();
+  NotifyTimers();
   detail::RunAsEvent(*this, [this] { Form_Load(); });
 }
 
@@ -178,12 +178,12 @@ void Form::Unload() {
   ReleaseOwnedForms();
   auto self = screens.Remove(*this);
   loaded_ = false;
-  TellTimers();
+  NotifyTimers();
   const bool isMain = name_ == program.StartUpScreen();
   if (isMain) {
     screens.unloadedMain_ = self;
   } else {
-    program.Bury(self);
+    program.DestroyLater(self);
   }
   Disappear();
   gone_ = !isMain;
@@ -198,7 +198,7 @@ void Form::ReleaseOwnedForms() {
   }
 }
 
-void Form::TellTimers() {
+void Form::NotifyTimers() {
   for (Control* control : controls_) {
     auto* timer = dynamic_cast<Timer*>(control);
     if (timer && timer->running_) desktop.TimerChanged(*timer);
@@ -234,7 +234,7 @@ void Form::Refresh() {
   desktop.Repaint(this);
 }
 
-// What the window tells.
+// Called by the window.
 
 void Form::UserMove(Twips left, Twips top) {
   left_ = left;

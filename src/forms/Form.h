@@ -22,7 +22,7 @@ namespace norvane {
 
 enum class WindowState { Normal, Minimized, Maximized };
 
-/// What a form tells of itself once.
+/// Fixed properties of a form.
 struct FormStyle {
   std::string caption = "";
   Twips width = 0;  ///< outer first size; 0 for what its content asks for
@@ -83,7 +83,7 @@ class Form {
   void Unload();
   void Refresh();
 
-  // What the window tells.
+  // Called by the window.
   void UserMove(Twips left, Twips top);
   void UserResize(Twips width, Twips height);
   void UserWindowState(WindowState state);
@@ -99,7 +99,7 @@ class Form {
   /// Writes them in that order, unless the window is minimized.
   void WriteGeometry(std::string_view section);
 
-  /// Told of caption, place, visibility of the window.
+  /// Called after a change of caption, place or visibility of the window.
   std::function<void(Aspect)> observer;
 
  protected:
@@ -109,7 +109,7 @@ class Form {
   virtual void Form_Unload() {}
   virtual void Form_Terminate() {}
 
-  /// To be called once, in the constructor's body: what stands where. Node references stay the form's own controls.
+  /// To be called once, in the constructor's body. The controls that the nodes refer to stay the form's own.
   void SetLayout(layout::Node layout) { layout_ = std::move(layout); }
   /// What closing by the frame presses.
   void SetExitButton(Button& button) { exitButton_ = &button; }
@@ -170,7 +170,7 @@ class Form {
   void Appear(ShowOptions options);
   void Disappear();
   void ReleaseOwnedForms();
-  void TellTimers();
+  void NotifyTimers();
   void Resize(Twips width, Twips height);
   void RunHandler(const std::function<void()>& body);
   void Terminate();

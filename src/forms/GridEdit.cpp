@@ -88,8 +88,8 @@ void Grid::ChooseItem(int index) {
   ShowEdit();
 }
 
-/// Goes on with the letters typed before, or begins anew with these behind the item chosen if no item follows both: the
-/// same letter again and again leads from one of its items to the next.
+/// Goes on with the letters typed before, or starts again with these after the item chosen if no item follows both: the
+/// same letter typed again and again goes from one of its items to the next.
 void Grid::SearchItem(std::string_view letters) {
   const auto& items = model_->Column(Col()).items;
   auto& searched = model_->edit->letters;

@@ -25,7 +25,7 @@ struct GridColumn {
     const auto& contents = helper == CellHelper::KeyedDropDown ? keys : items;
     return contents[static_cast<std::size_t>(item)];
   }
-  /// The item that a content stands for, -1 for none.
+  /// The item of a content, -1 for none.
   int ItemOf(std::string_view content) const;
 };
 
@@ -52,7 +52,7 @@ struct Grid::Model {
   int Rows() const { return table.Rows(); }
   int Cols() const { return static_cast<int>(columns.size()); }
   int LastRow() const { return Rows() - 1; }
-  /// With this row on top the last one stands at the bottom.
+  /// With this row on top the last one is at the bottom.
   int LastTop() const { return std::max(1, Rows() - visibleRows); }
   /// The marker column is out of the cursor's reach.
   int FirstCol() const { return kind == GridKind::Editable ? 1 : 0; }

@@ -8,7 +8,7 @@ namespace norvane {
 
 class Control;
 
-/// How a form is laid out, told once by the form: what stands beside and below what, which label belongs to which
+/// How a form is laid out, stated once by the form: what is beside and below what, which label belongs to which
 /// field, and what stretches. The drawing side turns it into real layouts; the order of the controls in it is the tab
 /// order.
 namespace layout {

@@ -13,7 +13,7 @@ Program::Program(Desktop& desktop_, RegionalSettings settings, std::filesystem::
 
 Program::~Program() {
   running_ = false;
-  EmptyGraveyard();
+  DestroyPending();
 }
 
 void Program::Start(std::string_view startUpScreen) {
@@ -26,7 +26,7 @@ void Program::Start(std::string_view startUpScreen) {
 void Program::LeaveDispatch() {
   if (dispatchDepth_ == 1) {
     EndIfNothingIsVisible();
-    EmptyGraveyard();
+    DestroyPending();
   }
   --dispatchDepth_;
 }
@@ -39,15 +39,15 @@ void Program::EndIfNothingIsVisible() {
   while (!loaded.empty()) loaded.back()->Unload();
   if (const auto main = std::move(screens.unloadedMain_)) {
     main->Terminate();
-    Bury(main);
+    DestroyLater(main);
   }
   desktop.Quit();
 }
 
-void Program::EmptyGraveyard() {
-  while (!graveyard_.empty()) {
-    const auto form = std::move(graveyard_.back());
-    graveyard_.pop_back();
+void Program::DestroyPending() {
+  while (!pendingDestruction_.empty()) {
+    const auto form = std::move(pendingDestruction_.back());
+    pendingDestruction_.pop_back();
     desktop.FormDestroyed(*form);
   }
 }

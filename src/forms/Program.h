@@ -44,14 +44,14 @@ class Program {
   friend class ScreenTable;
   void EnterDispatch() { ++dispatchDepth_; }
   void LeaveDispatch();
-  void Bury(std::shared_ptr<Form> form) { graveyard_.push_back(std::move(form)); }
+  void DestroyLater(std::shared_ptr<Form> form) { pendingDestruction_.push_back(std::move(form)); }
   void EndIfNothingIsVisible();
-  void EmptyGraveyard();
+  void DestroyPending();
 
   std::string startUpScreen_;
   bool running_ = false;
   int dispatchDepth_ = 0;
-  std::vector<std::shared_ptr<Form>> graveyard_;  ///< unloaded forms that a handler may still be running in
+  std::vector<std::shared_ptr<Form>> pendingDestruction_;  ///< unloaded forms that a handler may still be running in
 };
 
 }  // namespace norvane

@@ -72,7 +72,7 @@ void ScreenTable::Show(std::string_view name, ShowOptions options) {
   auto form = Share(name);
   if (!form) {
     // The old main screen gives way to the new one; its Form_Terminate is for the program's end alone.
-    if (unloadedMain_ && name == program_.startUpScreen_) program_.Bury(std::move(unloadedMain_));
+    if (unloadedMain_ && name == program_.startUpScreen_) program_.DestroyLater(std::move(unloadedMain_));
     form = Load(name);
   }
   if (form->loaded_) form->Appear(options);

@@ -79,8 +79,8 @@ std::string Vendor::CompanyOf(std::int32_t vendorNum) {
   return Read(sql::Statement("select * from tb_Vendor where VendorNum = ", vendorNum))->Text("Company");
 }
 
-void Vendor::SaveVendorAccess(std::int32_t vendorNum) {
-  Trapped("Vendor.SaveVendorAccess -", [&] {
+bool Vendor::SaveVendorAccess(std::int32_t vendorNum) {
+  return Trapped("Vendor.SaveVendorAccess -", [&] {
     SaveUnder(kVendors, vendorNum, VendorNum, [&] {
       Replace(
           sql::Statement("Delete * from tb_Vendor where VendorNum = ", vendorNum),

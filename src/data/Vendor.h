@@ -49,8 +49,9 @@ class Vendor : public DataObject {
   void DeleteVendor(std::int32_t vendorNum);
   /// Sums a column that the ledger doesn't have, so it reports and returns 0.
   Currency VendorBal(std::int32_t vendorNum);
-  /// Saves the vendor's properties: deletes the row of `vendorNum` and inserts one under the property VendorNum.
-  void SaveVendorAccess(std::int32_t vendorNum);
+  /// Saves the vendor's properties: deletes the row of `vendorNum` and inserts one under the property VendorNum. False
+  /// after a report.
+  bool SaveVendorAccess(std::int32_t vendorNum);
   /// Reads columns that vendors don't have, so it reports and returns an empty text.
   std::string VendorName(std::int32_t vendorNum);
   std::string VendorCompany(std::int32_t vendorNum);
@@ -59,8 +60,13 @@ class Vendor : public DataObject {
 
   /// All entries by date and check number.
   Object<Recordset> LedgerEntriesAll();
-  /// A selection by `field`: VENDOR (whose value ALL means any), CATEGORY, NOTES and CLEARED give payments since a date
-  /// by date and check number, DEPOSIT all deposits of any date by date. Any other field is reported.
+  // What LedgerEntries selects by, and the value that means any vendor.
+  static constexpr const char* kByVendor = "Vendor";
+  static constexpr const char* kByCategory = "Category";
+  static constexpr const char* kByDeposit = "Deposit";
+  static constexpr const char* kAll = "ALL";
+  /// A selection by `field`: vendor, category, NOTES and CLEARED give payments since a date by date and check number,
+  /// deposit all deposits of any date by date. Any other field is reported. Letter case is ignored.
   Object<Recordset> LedgerEntries(const std::string& field, const std::string& value, Date since);
   /// Saves the entry's properties. TransNum 0 becomes the next free number; it stays 0 if there is none or the new
   /// entry is refused.

@@ -23,11 +23,11 @@ Object<Recordset> Vendor::LedgerEntries(const std::string& field, const std::str
 // column with a quoted word.
 std::string Vendor::LedgerSelection(const std::string& field, const std::string& value, Date since) const {
   const auto isBy = [&](std::string_view name) { return EqualNoCase(field, name); };
-  if (isBy("DEPOSIT")) return "SELECT * from tb_GL where deposit > 0 order by [date]";
+  if (isBy(kByDeposit)) return "SELECT * from tb_GL where deposit > 0 order by [date]";
   std::string condition;
-  if (isBy("VENDOR")) {
-    if (!EqualNoCase(value, "ALL")) condition = sql::Statement("Vendor = '", value, "' and ");
-  } else if (isBy("CATEGORY")) {
+  if (isBy(kByVendor)) {
+    if (!EqualNoCase(value, kAll)) condition = sql::Statement("Vendor = '", value, "' and ");
+  } else if (isBy(kByCategory)) {
     condition = sql::Statement("Category = '", value, "' and ");
   } else if (isBy("NOTES")) {
     condition = sql::Statement("Notes = '", value, "' and ");

@@ -175,6 +175,13 @@ void ComboBox::UserType(const std::string& text) {
   Change.Raise();
 }
 
+void ComboBox::UserEnter() {
+  if (style_ != ComboStyle::Search) return;
+  const auto found = std::find_if(items_.begin(), items_.end(),
+                                  [this](const std::string& item) { return StartsWithNoCase(item, text_); });
+  if (found != items_.end()) UserPick(static_cast<int>(found - items_.begin()));
+}
+
 void DatePicker::SetValue(Date value) {
   if (value == value_) return;
   value_ = value;

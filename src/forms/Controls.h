@@ -118,7 +118,8 @@ class OptionButton : public Control {
   bool on_ = false;
 };
 
-enum class ComboStyle { AnyText, ItemsOnly };
+/// A search box takes any text and finds the item that begins with it.
+enum class ComboStyle { AnyText, ItemsOnly, Search };
 
 class ComboBox : public Control {
  public:
@@ -143,6 +144,8 @@ class ComboBox : public Control {
   void UserPick(int index);
   /// The user's typing; an items-only combo ignores what is no item.
   void UserType(const std::string& text);
+  /// Enter in a search box: picks the first item that its text is or begins, without regard to case, if there is one.
+  void UserEnter();
 
   Event<> Change{Parent()};
   Event<> Click{Parent()};

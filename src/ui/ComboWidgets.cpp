@@ -22,13 +22,20 @@ void ShowComboText(QComboBox& widget, const ComboBox& combo) {
     ShowStored(*widget.lineEdit(), ToQt(combo.Text()));
 }
 
+/// What is typed is completed as it goes on, and Enter picks what was found. A completion that isn't picked goes.
+void FindAsTyped(ComboBox& combo, QComboBox& widget, Binding& binding) {
+  QLineEdit* edit = widget.lineEdit();
+  QObject::connect(edit, &QLineEdit::returnPressed, &binding, [&combo] { combo.UserEnter(); });
+  QObject::connect(edit, &QLineEdit::editingFinished, &binding, [&] { ShowComboText(widget, combo); });
+}
+
 }  // namespace
 
 Binding* MakeComboBox(ComboBox& combo, QWidget* parent) {
   auto* widget = new QComboBox(parent);
-  widget->setEditable(combo.Style() == ComboStyle::AnyText);
+  widget->setEditable(combo.Style() != ComboStyle::ItemsOnly);
   widget->setInsertPolicy(QComboBox::NoInsert);
-  if (widget->isEditable()) widget->setCompleter(nullptr);
+  if (combo.Style() == ComboStyle::AnyText) widget->setCompleter(nullptr);
   widget->setFocusPolicy(Qt::StrongFocus);
   widget->setMinimumWidth(WidthOf(*widget, combo.Characters()) + kInputPadding);
   IgnoreStrayWheel(*widget);
@@ -42,6 +49,9 @@ Binding* MakeComboBox(ComboBox& combo, QWidget* parent) {
     edit->setAccessibleName(widget->accessibleName());
     QObject::connect(edit, &QLineEdit::textEdited, binding,
                      [&combo](const QString& text) { combo.UserType(FromQt(text)); });
+    // The toolkit would pick the item whose text is there as the focus goes.
+    QObject::disconnect(edit, &QLineEdit::editingFinished, widget, nullptr);
+    if (combo.Style() == ComboStyle::Search) FindAsTyped(combo, *widget, *binding);
   }
   return binding;
 }

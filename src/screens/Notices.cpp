@@ -40,6 +40,7 @@ constexpr NoticeKind kNotices[] = {
     {screen::kLoadingClients, "Loading Clients", "Loading Client Data...", nullptr, {1000, true}, true},
     {screen::kLoadingBilling, "Loading Billing", "Loading Billing Data...", nullptr, {1000, true}, true},
     {screen::kCustomerSaved, "Save Client", "Saving Client...", "Updating Client List...", {1000, false}},
+    {screen::kVendorSaved, "Save Vendor", "Vendor Saved Successfully!", nullptr, {1500, true, screen::kVendors}},
     {screen::kLoadingInvoices, "Loading Invoices", "Loading Invoices...", nullptr, {}, false, LoadingInvoicesLabel},
 };
 

@@ -5,6 +5,10 @@
 #include "screens/clients/CustSearch.h"
 #include "screens/clients/Customer.h"
 #include "screens/clients/Profile.h"
+#include "screens/registry/GL.h"
+#include "screens/registry/LedgerTypes.h"
+#include "screens/registry/VendorSearch.h"
+#include "screens/registry/Vendors.h"
 #include "screens/sales/CustInvoices.h"
 #include "screens/sales/InvoiceDetail.h"
 #include "screens/sales/PaymentDate.h"
@@ -30,14 +34,18 @@ void RegisterScreens(Program& program) {
   screens.Add<CustSearch>();
   screens.Add<Customer>();
   screens.Add<ExpenseTypes>();
+  screens.Add<GL>();
   screens.Add<InvSearch>();
   screens.Add<InventoryCats>();
   screens.Add<InvoiceDetail>();
+  screens.Add<LedgerTypes>();
   screens.Add<PaymentCategories>();
   screens.Add<PaymentDate>();
   screens.Add<Profile>();
   screens.Add<Receipts>();
   screens.Add<ShippingTypes>();
+  screens.Add<VendorSearch>();
+  screens.Add<Vendors>();
   screens.Add<frmInventory>();
   screens.Add<frmSetup>();
   screens.Add<intro>();

@@ -104,6 +104,7 @@ class AllScreensTest : public Office {};
 
 TEST_F(AllScreensTest, AreLaidOutLabelledAndWired) {
   AddClients();
+  database.Execute("INSERT INTO tb_Vendor (VendorNum, Company, Discount) VALUES (1001, 'Acme', 0)");
   Start();
   const auto names = program.screens.Names();
   ASSERT_GT(names.size(), 10u);

@@ -221,32 +221,6 @@ TEST_F(PaymentsTest, TheCalendarStandsBesideItsCellAndIsUsedByKeys) {
   EXPECT_EQ(Screen().Width(), 5200) << "the window keeps its place";
 }
 
-/// As far as the calendar knows the registry: a screen of that name with one grid.
-class Registry : public Form {
- public:
-  static constexpr const char* kName = "GL";
-  explicit Registry(Program& host) : Form(host, kName, {.caption = kName, .width = 9000, .height = 6000}) {
-    SetLayout(PaymentList);
-    PaymentList.SetCols(11);
-    PaymentList.SetRows(3);
-  }
-  Grid PaymentList{*this, "PaymentList", GridKind::Editable};
-};
-
-TEST_F(PaymentsTest, TheCalendarServesTheRegistryWithoutBlockingIt) {
-  program.screens.Add<Registry>();
-  Start();
-  program.screens.Show(Registry::kName);
-  auto& registry = The<Registry>();
-  globals.PayDateCaller = PaymentDate::kForRegistry;
-  program.screens.Show(PaymentDate::kName, {.owner = &registry});
-  registry.PaymentList.UserClick(2, 3);
-  The<PaymentDate>().PayDate.UserClick(Date(kToday));
-  EXPECT_EQ(registry.PaymentList.Cell(2, 2), "11/22/2026");
-  EXPECT_TRUE(globals.PayDateSet && globals.RowChanged);
-  EXPECT_FALSE(IsOpen("PaymentDate"));
-}
-
 TEST_F(PaymentsTest, ARowWithADateThatIsNoneWaitsAndLeavesNothingOpen) {
   AddPayment(1001, 1003);
   Open();

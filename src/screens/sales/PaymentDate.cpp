@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "screens/registry/GL.h"
 #include "screens/sales/Receipts.h"
 
 namespace norvane {
@@ -16,7 +17,7 @@ struct Caller {
 };
 
 constexpr Caller kCallers[] = {{PaymentDate::kForReceipts, Receipts::kName, Receipts::kDate},
-                               {PaymentDate::kForRegistry, screen::kGL, 2}};
+                               {PaymentDate::kForRegistry, GL::kName, GL::kDate}};
 
 /// Nothing if no screen has opened the calendar yet.
 const Caller* CallerOf(const Globals& globals) {
@@ -67,16 +68,20 @@ void PaymentDate::PlaceBeside(const Form& caller, const Grid& grid) {
   SetTop(std::max(caller.Top(), std::min(top, lastTop)));
 }
 
-// The flags are set before the focus goes back to the grid, which then treats the row as edited.
+// The flags are set before the focus goes back to the grid, which then treats the row as edited. The heading takes no
+// date.
 void PaymentDate::PayDate_DateClick(Date date) {
   Trapped("PaymentDate.PayDate_DateClick -", [&] {
     const Caller* caller = CallerOf(globals);
     if (!caller) return;
-    globals.PayDateSet = true;
     Grid& grid = GridOf(screens.Touch(caller->screen));
-    grid.SetCell(grid.Row(), caller->dateColumn, convert.ToText(date));
-    globals.RowChanged = true;
+    if (grid.Row() > 0) {
+      globals.PayDateSet = true;
+      grid.SetCell(grid.Row(), caller->dateColumn, convert.ToText(date));
+      globals.RowChanged = true;
+    }
     Unload();
+    grid.SetFocus();
   });
 }
 

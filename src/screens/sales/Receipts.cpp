@@ -247,7 +247,7 @@ void Receipts::PaymentList_CellButtonClick(int row, int col) {
     }
     if (PaymentList.Col() == kDate) {
       globals.PayDateCaller = PaymentDate::kForReceipts;
-      screens.Show(PaymentDate::kName, {.owner = this, .modal = true});
+      screens.Reopen(PaymentDate::kName, {.owner = this, .modal = true});
     }
   });
 }

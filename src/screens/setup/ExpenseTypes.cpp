@@ -1,5 +1,7 @@
 #include "screens/setup/ExpenseTypes.h"
 
+#include "screens/registry/GL.h"
+
 namespace norvane {
 
 namespace {
@@ -29,5 +31,12 @@ constexpr TypeListKind kExpenseTypes{
 }  // namespace
 
 ExpenseTypes::ExpenseTypes(Program& host) : TypeList(host, kExpenseTypes) {}
+
+// The registry takes over the types, and is loaded for it if it isn't. Without types it keeps those that it has, and
+// the error is reported once this screen is closed.
+void ExpenseTypes::btnExit_Click() {
+  TypeList::btnExit_Click();
+  screens.Touch<GL>().OfferCategories();
+}
 
 }  // namespace norvane

@@ -9,6 +9,9 @@ class ExpenseTypes : public TypeList {
  public:
   static constexpr const char* kName = screen::kExpenseTypes;
   explicit ExpenseTypes(Program& program);
+
+ private:
+  void btnExit_Click() override;
 };
 
 }  // namespace norvane

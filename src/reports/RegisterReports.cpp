@@ -12,6 +12,7 @@
 #include "reports/PrtInventorySales.h"
 #include "reports/PrtInvoice.h"
 #include "reports/PrtReceipt.h"
+#include "reports/PrtRegistry.h"
 
 namespace norvane {
 
@@ -29,6 +30,7 @@ void RegisterReports(Program& program) {
   screens.Add<PrtInventorySales>();
   screens.Add<PrtInvoice>();
   screens.Add<PrtReceipt>();
+  screens.Add<PrtRegistry>();
 }
 
 }  // namespace norvane

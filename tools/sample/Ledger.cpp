@@ -11,7 +11,7 @@ struct Entry {
   Day day = 0;
   const Supplier* supplier = nullptr;  ///< none: a deposit
   Money amount = 0;
-  bool check = false;  ///< paid by a numbered check; otherwise by transfer
+  bool check = false;  ///< paid by a numbered check, or deposited at the counter; otherwise by transfer
   std::string note;
 };
 
@@ -24,12 +24,12 @@ struct Bill {
 };
 constexpr Bill kBills[] = {{8, 1, 80, true},   {9, 12, 14, false}, {10, 15, 5, false},  {11, 20, 8, false},
                            {12, 5, 20, false}, {13, 9, 12, true},  {14, 23, 15, false}, {15, 17, 7, true},
-                           {16, 27, 5, true},  {19, 28, 9, false}};
+                           {16, 27, 5, true},  {19, 28, 9, false}, {20, 14, 50, false}, {20, 28, 50, false}};
 constexpr int kRevenueOffice = 17;
 constexpr int kTravelAgency = 18;
 constexpr int kTravelShare = 60;
 constexpr int kGoodsSuppliers = 8;  // the first ones
-constexpr int kGoodsPercent = 62;   // of the takings
+constexpr int kGoodsPercent = 50;   // of the takings
 constexpr int kOpeningMonths = 3;
 
 Money WholeDollars(Money amount) {
@@ -48,12 +48,15 @@ class Ledger {
  public:
   Ledger(Random& random, const Order& order, const std::vector<Invoice>& invoices, const std::vector<Payment>& payments)
       : random_(random), order_(order), first_(order.today - kDaysOfBusiness) {
-    for (const Payment& payment : payments) takings_[payment.day] += payment.amount;
+    for (const Payment& payment : payments) {
+      takings_[payment.day] += payment.amount;
+      if (payment.byCard) cards_[payment.day] += payment.amount;
+    }
     for (const Invoice& invoice : invoices) taxes_[invoice.day] += invoice.tax;
     Money total = 0;
     for (const auto& [day, amount] : takings_) total += amount;
     month_ = total / (kDaysOfBusiness / 30);
-    Add({first_, nullptr, WholeDollars(month_ * kOpeningMonths), false, "Opening balance"});
+    Add({first_, nullptr, WholeDollars(month_ * kOpeningMonths), true, "Opening balance"});
   }
 
   std::vector<Entry> Plan() {
@@ -77,7 +80,11 @@ class Ledger {
     return sum;
   }
 
-  void Deposit(Day day) { Add({day, nullptr, Sum(takings_, day - 6, day), false, "Client payments of the week"}); }
+  void Deposit(Day day) {
+    const Money cards = Sum(cards_, day - 6, day);
+    Add({day, nullptr, cards, false, "Card payments of the week"});
+    Add({day, nullptr, Sum(takings_, day - 6, day) - cards, true, "Checks and cash of the week"});
+  }
 
   void PayBills(Day day) {
     for (const Bill& bill : kBills)
@@ -117,6 +124,7 @@ class Ledger {
   Day first_;
   Money month_ = 0;  ///< takings of an average month
   std::map<Day, Money> takings_;
+  std::map<Day, Money> cards_;  ///< of the takings, those by card
   std::map<Day, Money> taxes_;
   std::vector<Entry> entries_;
 };
@@ -156,7 +164,7 @@ void WriteLedger(Database& database, Random& random, const Order& order, const s
   for (const Entry& entry : Ledger(random, order, invoices, payments).Plan()) {
     const bool cleared = Cleared(random, entry, order.today);
     const bool deposit = entry.supplier == nullptr;
-    const std::string means = deposit ? "DEP" : entry.check ? std::to_string(check++) : "EFT";
+    const std::string means = !entry.check ? "EFT" : deposit ? "DEP" : std::to_string(check++);
     rows.Add({number++, entry.day, means, deposit ? "" : entry.supplier->company, deposit ? 0 : entry.amount,
               cleared ? -1 : 0, deposit ? "" : entry.supplier->expenseType, deposit ? entry.amount : 0, entry.note});
   }

@@ -89,9 +89,10 @@ std::vector<Payment> WritePayments(Database& database, Random& random, const Ord
   std::vector<Payment> payments = PlanPayments(random, order, clients.size(), invoices);
   Inserter rows(database, "tb_Receive", "TransNum,CustNum,Type,CheckNum,Date,Amount,Notes");
   int number = kFirstKey;
-  for (const Payment& payment : payments) {
+  for (Payment& payment : payments) {
     const Client& client = clients[static_cast<std::size_t>(payment.client)];
     const Means means = MeansOf(random, client);
+    payment.byCard = means.number == client.card && !client.card.empty();
     rows.Add({number++, client.number, means.type, means.number, payment.day, payment.amount,
               random.Chance(8) ? "Thank you" : ""});
   }

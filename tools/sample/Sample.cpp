@@ -54,6 +54,8 @@ void WriteSettings(Database& database) {
   Inserter categories(database, "tb_InvCategories", "CatNum,Description");
   std::int64_t number = 0;
   for (const char* name : Categories()) categories.Add({++number, name});
+  Inserter types(database, "tb_ExpenseTypes", "Type");
+  types.Add({"Payroll"});
 }
 
 void WriteSample(const fs::path& delivered, const fs::path& target, const Order& order) {

@@ -56,6 +56,7 @@ struct Payment {
   Day day = 0;
   int client = 0;  ///< index into the clients
   Money amount = 0;
+  bool byCard = false;
 };
 
 std::vector<Client> WriteClients(Database& database, Random& random, const Order& order);
@@ -67,7 +68,8 @@ std::vector<Invoice> WriteSales(Database& database, Random& random, const Order&
 /// What the clients have paid, in the order of the dates.
 std::vector<Payment> WritePayments(Database& database, Random& random, const Order& order,
                                    const std::vector<Client>& clients, const std::vector<Invoice>& invoices);
-/// Vendors, and the registry: a deposit each Friday of what clients paid in the week, and payments to vendors.
+/// Vendors, and the registry: deposits each Friday of what clients paid in the week, by card and otherwise, and
+/// payments to vendors.
 void WriteLedger(Database& database, Random& random, const Order& order, const std::vector<Invoice>& invoices,
                  const std::vector<Payment>& payments);
 

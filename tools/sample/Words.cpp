@@ -156,7 +156,8 @@ constexpr Supplier kSuppliers[] = {{"Cascade Bicycle Distributors", "Inventory",
                                    {"Pioneer Printing", "Office Supplies", "Receipts and tags"},
                                    {"Department of Revenue", "Taxes", "Sales tax"},
                                    {"Coastline Travel", "Travel", "Trade show"},
-                                   {"Narrows Fuel", "Travel", "Delivery van"}};
+                                   {"Narrows Fuel", "Travel", "Delivery van"},
+                                   {"Tideflats Payroll Service", "Payroll", "Wages and withholding"}};
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "app/Composition.h"
 
 #include "forms/Program.h"
+#include "maintenance/Maintenance.h"
 #include "reports/RegisterReports.h"
 #include "screens/Screens.h"
 
@@ -9,6 +10,7 @@ namespace norvane {
 void Compose(Program& program) {
   RegisterScreens(program);
   RegisterReports(program);
+  RegisterMaintenance(program);
 }
 
 }  // namespace norvane

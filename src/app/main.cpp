@@ -6,6 +6,7 @@
 #include "core/SystemRegion.h"
 #include "forms/Program.h"
 #include "forms/ScreenNames.h"
+#include "maintenance/Maintenance.h"
 #include "ui/QtDesktop.h"
 
 int main(int argc, char** argv) {
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
   application.ReportTo(desktop);
   norvane::Compose(program);
   program.Start(norvane::screen::kCustomer);
+  norvane::KeepDailyCopy(program);
   desktop.Run();
   return 0;
 }

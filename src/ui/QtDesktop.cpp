@@ -18,6 +18,7 @@
 #include "forms/Form.h"
 #include "ui/AltKeys.h"
 #include "ui/Convert.h"
+#include "ui/FileListWidgets.h"
 #include "ui/PreviewWidget.h"
 #include "ui/ProgressWidget.h"
 
@@ -106,6 +107,7 @@ QtDesktop::QtDesktop(const RegionalSettings& settings, Theme theme, const std::f
   ApplyTheme(*qApp, first == Theme::Dark || (first == Theme::System && systemIsDark_));
   KeepAltFromTyping(*qApp);
   RegisterStandardWidgets(widgets_, {.convert = convert_, .clock = *this, .memory = memory_});
+  RegisterFileListWidgets(widgets_);
   RegisterPreview(widgets_);
   RegisterProgressBar(widgets_);
 }

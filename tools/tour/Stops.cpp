@@ -92,6 +92,8 @@ const std::vector<Stop>& Stops() {
       {"notice-loading-clients", "LoadingClients", {{Show, "LoadingClients"}}},
       {"notice-loading-billing", "LoadingBilling", {{Show, "LoadingBilling"}}},
       {"notice-client-saved", "CustomerSaved", {{Show, "CustomerSaved"}}},
+      {"notice-daily-copy", "DailyCopy", {{Show, "DailyCopy"}}},
+      {"notice-working", "Working", {{Show, "Working"}}},
       {"notice-vendor-saved", "VendorSaved", {{Show, "VendorSaved"}}},
   };
   return stops;

@@ -34,7 +34,7 @@ void TextBox::UserType(const std::string& text) {
   if (!Enabled()) return;
   const Dispatch dispatch(Parent());
   SetFocus();
-  if (Parent().IsLoaded()) SetText(style_.lines > 1 ? text : OneLine(text));
+  if (Parent().IsLoaded()) SetText(OneLine(text));
 }
 
 namespace {

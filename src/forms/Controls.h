@@ -25,10 +25,9 @@ class Label : public Control {
   Colour colour_ = Colour::Black;
 };
 
-/// Fixed properties of a text box.
+/// How a text box looks.
 struct TextBoxStyle {
   int characters = 24;  ///< the width it asks for
-  int lines = 1;        ///< above 1 it takes several lines
   bool rightAligned = false;
 };
 
@@ -41,8 +40,7 @@ class TextBox : public Control {
   const TextBoxStyle& Style() const { return style_; }
   bool TakesFocus() const override { return true; }
 
-  /// The user's typing: the focus comes here first, then the text is what it says, in one line unless the box takes
-  /// several.
+  /// The user's typing: the focus comes here first, then the text is what was typed, in one line.
   void UserType(const std::string& text);
 
   Event<> Change{Parent()};

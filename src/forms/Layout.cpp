@@ -72,10 +72,6 @@ Node Space() {
   return Stretch(Node(Kind::Space));
 }
 
-Node Line() {
-  return Node(Kind::Line);
-}
-
 std::vector<Control*> ControlsOf(const Node& node) {
   std::vector<Control*> controls;
   Collect(node, controls);

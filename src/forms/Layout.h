@@ -13,7 +13,7 @@ class Control;
 /// order.
 namespace layout {
 
-enum class Kind { Control, Row, Column, Strip, Fields, Field, Group, Tabs, Tab, Space, Line };
+enum class Kind { Control, Row, Column, Strip, Fields, Field, Group, Tabs, Tab, Space };
 
 struct Node {
   Node(Control& control_) : kind(Kind::Control), control(&control_) {}
@@ -45,7 +45,6 @@ Node Tabs(Control& tabControl, const std::vector<std::pair<std::string, Node>>& 
 Node Stretch(Node node, int share = 1);
 /// Room left over goes here.
 Node Space();
-Node Line();
 
 /// All controls below the node, in reading order.
 std::vector<Control*> ControlsOf(const Node& node);

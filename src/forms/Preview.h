@@ -10,16 +10,11 @@
 
 namespace norvane {
 
-/// How large the pages are shown: at a scale in percent, or fitted into the window in one of the ways of kZoomChoices,
-/// in its order.
+/// How large the pages are shown: at a scale in percent, or fitted into the window in one of the ways that kZoomChoices
+/// lists in the same order.
 enum class ZoomChoice { Percent, WholePage, PageWidth, TwoPages, Thumbnail };
 
-// The fixed words of previewing and printing.
 inline constexpr const char* kZoomChoices = "Whole &Page|Page &Width|&Two Pages|Thumb&nail";
-inline constexpr const char* kPrintingCaption = "Printing...";
-inline constexpr const char* kPrintingCancel = "Cancel";
-inline constexpr const char* kPrintingDevice = "on the %s on %s";  ///< document, printer
-inline constexpr const char* kPrintingPage = "Now printing Page %d of";
 
 /// The control in which a report builds its document, and which shows and prints the pages.
 ///

@@ -170,7 +170,6 @@ LayoutBuilder::Piece LayoutBuilder::Build(const Node& node, QWidget& page) {
     case Kind::Tabs:
       return BuildTabs(node, page);
     case Kind::Space:
-    case Kind::Line:
       return {};
   }
   return {};

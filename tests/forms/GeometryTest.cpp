@@ -52,7 +52,7 @@ struct MenuForm : Form {
   explicit MenuForm(Program& program_) : Form(program_, kName, {.width = 4000, .height = 3000}) {
     using namespace layout;
     SetLayout(Column({Strip({button, Space()}), Tabs(tabs, {{"One", Group(frame, Field("&Name:", second))},
-                                                            {"Two", Stretch(Row({first, Line()}))}})}));
+                                                            {"Two", Stretch(Row({first}))}})}));
   }
   MenuEntry menu{*this, "mnuFile", "&File"};
   TextBox first{*this, "first"};

@@ -14,7 +14,7 @@ namespace norvane {
 
 /// Lists only show rows; row-editing grids are edited in place.
 enum class GridKind { List, Editable };
-enum class ColumnType : int { Plain = 0, Currency = 6, Date = 7, Boolean = 11 };
+enum class ColumnType : int { Plain = 0, Number = 3, Currency = 6, Date = 7, Boolean = 11 };
 enum class ColumnAlignment { General, Left, Centre, Right };
 /// What the cells of a column offer besides their text.
 enum class CellHelper { None, Button, DropDown, KeyedDropDown };

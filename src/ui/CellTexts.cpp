@@ -40,6 +40,7 @@ QString CellTexts::Sample(ColumnType type) const {
     case ColumnType::Date:
       return "00/00/0000";
     case ColumnType::Plain:
+    case ColumnType::Number:
     case ColumnType::Boolean:
       break;
   }

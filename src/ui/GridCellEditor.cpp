@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QValidator>
 
 #include "forms/Form.h"
 #include "ui/Apostrophe.h"
@@ -17,6 +18,17 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kRoomAround = 16;  // of the text in its field
+
+auto LettersIn(const QString& text) {
+  return std::count_if(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
+/// No letters are typed into a number.
+class FigureValidator : public QValidator {
+ public:
+  using QValidator::QValidator;
+  State validate(QString& text, int&) const override { return LettersIn(text) > 0 ? Invalid : Acceptable; }
+};
 
 }  // namespace
 
@@ -47,7 +59,8 @@ GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport, const CellEntry& e
       alignment_(std::move(alignment)),
       viewport_(viewport),
       line_(new QLineEdit(viewport)),
-      list_(new QComboBox(viewport)) {
+      list_(new QComboBox(viewport)),
+      figures_(new FigureValidator(line_)) {
   for (QWidget* field : {static_cast<QWidget*>(line_), static_cast<QWidget*>(list_)}) {
     field->hide();
     field->installEventFilter(this);
@@ -55,6 +68,7 @@ GridCellEditor::GridCellEditor(Grid& grid, QWidget* viewport, const CellEntry& e
   list_->setFocusPolicy(Qt::StrongFocus);
   list_->view()->installEventFilter(this);
   TypeApostrophes(*line_);
+  texts_ = line_->validator();
   connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {
     if (grid_) grid_->SetEditText(FromQt(text));
     Place(cell_);
@@ -108,6 +122,9 @@ QRect GridCellEditor::Grown(QRect cell) const {
 
 void GridCellEditor::ShowLine() {
   line_->setAlignment(alignment_(grid_->Col()));
+  // Letters that are there already can be taken away one by one.
+  const bool isFigure = Type() == ColumnType::Number && LettersIn(ToQt(grid_->EditText())) == 0;
+  line_->setValidator(isFigure ? figures_ : texts_);
   if (line_->text() == ToQt(grid_->EditText()) && line_->isVisible()) return;
   ShowStored(*line_, ToQt(grid_->EditText()));
   if (!line_->isVisible()) line_->selectAll();
@@ -187,9 +204,13 @@ bool GridCellEditor::BeginByKey(const QKeyEvent& event) {
   return true;
 }
 
+bool GridCellEditor::Refuses(const QString& text) const {
+  return grid_->Kind() == GridKind::Editable && Type() == ColumnType::Number && LettersIn(text) > 0;
+}
+
 void GridCellEditor::FinishSum() {
   if (!grid_ || !grid_->Editing() || Field() != line_) return;
-  if (Type() != ColumnType::Currency) return;
+  if (Type() != ColumnType::Number && Type() != ColumnType::Currency) return;
   const QString before = ToQt(grid_->Cell(grid_->Row(), grid_->Col()));
   if (const auto value = entry_.ValueOfSum(line_->text(), before)) grid_->SetEditText(FromQt(*value));
 }

@@ -12,6 +12,7 @@
 class QComboBox;
 class QKeyEvent;
 class QLineEdit;
+class QValidator;
 
 namespace norvane::ui {
 
@@ -39,6 +40,8 @@ class GridCellEditor : public QObject {
   /// Begins an edit by a key that gives the cell its content at once: "t", "+" and "-" in a date, Ctrl+' for the
   /// content of the cell above. False for any other key, and where the cell can't be edited.
   bool BeginByKey(const QKeyEvent& event);
+  /// Whether a text typed into the current cell is refused: letters are, in a column of numbers.
+  bool Refuses(const QString& text) const;
   /// Puts its value in the place of a sum.
   void FinishSum();
   /// Opens the list of a drop-down that is being edited.
@@ -64,6 +67,8 @@ class GridCellEditor : public QObject {
   QWidget* viewport_;
   QLineEdit* line_;
   QComboBox* list_;
+  const QValidator* texts_ = nullptr;
+  const QValidator* figures_;
   QRect cell_;
 };
 

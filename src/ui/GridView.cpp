@@ -359,7 +359,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const bool isText = !event->text().isEmpty() && event->text().at(0).isPrint() &&
                       !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
   event->setAccepted(isText);
-  if (!isText) return;
+  if (!isText || editor_->Refuses(event->text())) return;
   grid_->UserText(FromQt(WithApostrophes(event->text())));
   Search(event->text());
 }
@@ -406,7 +406,7 @@ bool GridView::UseKeyForTyped(const QKeyEvent& event) {
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {
   event->accept();
-  if (!grid_ || event->commitString().isEmpty()) return;
+  if (!grid_ || event->commitString().isEmpty() || editor_->Refuses(event->commitString())) return;
   grid_->UserText(FromQt(WithApostrophes(event->commitString())));
   Search(event->commitString());
 }

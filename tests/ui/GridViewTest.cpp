@@ -214,7 +214,8 @@ TEST_F(GridInWindow, ColumnsStayWhileTheUserWorksInTheGrid) {
 
 TEST_F(GridInWindow, DatesAndSumsAreQuickToEnter) {
   Rows().SetColDataType(1, ColumnType::Date);
-  Rows().SetCell(2, 3, "8");
+  Rows().SetColDataType(6, ColumnType::Number);
+  Rows().SetCell(2, 6, "8");
   ClickCell(2, 1);
   Rows().SetCell(2, 1, "11/30/2026");
   Type("++-");
@@ -224,10 +225,10 @@ TEST_F(GridInWindow, DatesAndSumsAreQuickToEnter) {
   Key(Qt::Key_Apostrophe, Qt::ControlModifier);
   Key(Qt::Key_Return);
   EXPECT_EQ(Rows().Cell(3, 1), "12/1/2026") << "the cell above";
-  ClickCell(2, 3);
-  Type("+10");
+  ClickCell(2, 6);
+  Type("x+1x0");
   Key(Qt::Key_Return);
-  EXPECT_EQ(Rows().Cell(2, 3), "18") << "added to what was there";
+  EXPECT_EQ(Rows().Cell(2, 6), "18") << "added to what was there, without the letters";
   ClickCell(1, 3);
   Type("12*3.50");
   Key(Qt::Key_Tab);

@@ -25,11 +25,11 @@ void InvoiceDetail::SetUpGrid() {
   ItemList.SetColumns({{"^Sel", 400},
                        {"TransNum", 0},
                        {"Inventory#", 1000},
-                       {">Quantity", 800},
+                       {">Quantity", 800, ColumnType::Number},
                        {">Charge", 1000, ColumnType::Currency},
                        {"Description", 3000},
                        {">Total", 1000, ColumnType::Currency},
-                       {">Back Order", 800}});
+                       {">Back Order", 800, ColumnType::Number}});
   ItemList.SetRows(1);
 }
 

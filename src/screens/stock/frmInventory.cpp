@@ -76,8 +76,8 @@ void frmInventory::SetUpGrid() {
                             {"Item#", 0},
                             {"Item Description", 2500},
                             {">Charge", 1000, ColumnType::Currency},
-                            {">Par", 800},
-                            {">In Stock", 800},
+                            {">Par", 800, ColumnType::Number},
+                            {">In Stock", 800, ColumnType::Number},
                             {"Warranty", 1500}});
   ItemRow = 1;
 }

@@ -81,11 +81,13 @@ Twips Form::ScaleHeight() const {
 
 void Form::SetLeft(Twips left) {
   left_ = left;
+  placed_ = true;
   Notify(Aspect::Place);
 }
 
 void Form::SetTop(Twips top) {
   top_ = top;
+  placed_ = true;
   Notify(Aspect::Place);
 }
 

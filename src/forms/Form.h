@@ -66,6 +66,8 @@ class Form {
   Twips ScaleHeight() const;
   void SetLeft(Twips left);
   void SetTop(Twips top);
+  /// Whether code has given the window its place; (0, 0) is one too.
+  bool IsPlaced() const { return placed_; }
   /// Raises Form_Resize while the form is visible.
   void SetWidth(Twips width);
   void SetHeight(Twips height);
@@ -192,6 +194,7 @@ class Form {
   bool modal_ = false;
   bool appearing_ = false;  ///< its window is being made; Form_Resize and the focus follow
   bool unloading_ = false;
+  bool placed_ = false;
   bool gone_ = false;  ///< unloaded; Form_Terminate comes when no handler of it runs
   int handlers_ = 0;   ///< handlers of this form that are running
 };

@@ -9,8 +9,8 @@ MenuEntry::MenuEntry(Form& form, std::string name, std::string caption)
   form.menuBar_.push_back(this);
 }
 
-MenuEntry::MenuEntry(MenuEntry& parent, std::string name, std::string caption)
-    : Control(parent.Parent(), std::move(name)), caption_(std::move(caption)) {
+MenuEntry::MenuEntry(MenuEntry& parent, std::string name, std::string caption, std::string icon)
+    : Control(parent.Parent(), std::move(name)), caption_(std::move(caption)), icon_(std::move(icon)) {
   parent.entries_.push_back(this);
 }
 

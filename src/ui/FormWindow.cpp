@@ -34,10 +34,6 @@ constexpr int kNoticeCharacters = 40;  // enough for its title beside the frame'
 constexpr int kCascade = 28;
 constexpr QSize kRoomForFrame(12, 36);
 
-bool IsPlaced(const Form& form) {
-  return form.Left() != 0 || form.Top() != 0;
-}
-
 QSize RoomForWindows() {
   return QGuiApplication::primaryScreen()->availableSize() - kRoomForFrame;
 }
@@ -100,7 +96,9 @@ void FormWindow::AddEntry(QMenu& menu, MenuEntry& entry) {
     menu.addMenu(MakeMenu(entry));
     return;
   }
-  auto* action = menu.addAction(ToQt(entry.Caption()));
+  const QKeySequence key = KeyOf(*form_, entry.Icon());
+  const QString keyText = key.isEmpty() ? QString() : "\t" + key.toString(QKeySequence::NativeText);
+  auto* action = menu.addAction(NamedIcon(entry.Icon()), ToQt(entry.Caption()) + keyText);
   entry.observer = [&entry, action](Aspect) {
     action->setEnabled(entry.Enabled());
     action->setVisible(entry.Visible());
@@ -232,8 +230,8 @@ void FormWindow::TakeFirstPlace(QWidget* owner) {
     ReportSize();
   }
   FollowPlace();
-  keepsPlace_ = !IsPlaced(*form_) && !IsSmall();
-  if (IsPlaced(*form_) || TakeKeptPlace()) return;
+  keepsPlace_ = !form_->IsPlaced() && !IsSmall();
+  if (form_->IsPlaced() || TakeKeptPlace()) return;
   FitOnScreen();
   QWidget* opener = owner && owner->isVisible() ? owner : QApplication::activeWindow();
   move(IsSmall() ? MiddleOf(opener) : PlaceBeside(opener));
@@ -294,7 +292,7 @@ void FormWindow::FollowPlace() {
   const QScopedValueRollback following(following_, true);
   if (form_->Width() > 0 && size() != SizeOfForm()) resize(SizeOfForm().expandedTo(minimumSizeHint()));
   const QPoint corner(ToPixels(form_->Left()), ToPixels(form_->Top()));
-  if (IsPlaced(*form_) && pos() != corner) move(corner);
+  if (form_->IsPlaced() && pos() != corner) move(corner);
 }
 
 void FormWindow::FormChanged(Aspect aspect) {

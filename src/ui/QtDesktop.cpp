@@ -198,9 +198,19 @@ void QtDesktop::LetAppear(QWidget& window) {
 void QtDesktop::FormHidden(Form& form) {
   focus_.Forget();
   if (FormWindow* window = WindowOf(form)) window->Withdraw();
-  const auto notice = notices_.find(form.Name());
-  if (notice != notices_.end() && notice->second.elapsed() >= kNoticeMilliseconds) slowNotices_.insert(form.Name());
+  NoteHowLong(form.Name());
   if (const auto found = modal_.find(&form); found != modal_.end()) found->second->quit();
+}
+
+void QtDesktop::NoteHowLong(const std::string& notice) {
+  const auto shown = notices_.find(notice);
+  if (shown == notices_.end()) return;
+  if (shown->second.elapsed() < kNoticeMilliseconds) {
+    slowNotices_.erase(notice);
+  } else {
+    slowNotices_.insert(notice);
+  }
+  notices_.erase(shown);
 }
 
 void QtDesktop::FormDestroyed(Form& form) {

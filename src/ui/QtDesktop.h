@@ -59,6 +59,7 @@ class QtDesktop : public Desktop {
   void ShowHelpOf(const Form& form);
   void ShowWindow(Form& form, FormWindow& window, bool isNew);
   void ShowLater(Form& form, FormWindow& window);
+  void NoteHowLong(const std::string& notice);
   void LetAppear(QWidget& window);
   void PresentOwned(FormWindow& owner);
   void RunLoop(QEventLoop& loop);

@@ -70,6 +70,14 @@ TEST_F(InDesktop, AFormWithoutSizeTakesWhatItNeeds) {
   EXPECT_EQ(window->size(), window->sizeHint());
 }
 
+TEST_F(InDesktop, TheUpperLeftCornerIsAPlace) {
+  auto& placed = program.screens.Touch<CalendarForm>();
+  placed.SetLeft(0);
+  placed.SetTop(0);
+  program.screens.Show(CalendarForm::kName);
+  EXPECT_EQ(desktop.WindowOf(placed)->pos(), QPoint(0, 0));
+}
+
 TEST_F(InDesktop, AFormIsNoLargerThanTheScreenAllows) {
   auto& large = program.screens.Touch<CalendarForm>();
   large.SetWidth(90'000);

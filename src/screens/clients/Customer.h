@@ -38,24 +38,24 @@ class Customer : public Form {
 
   MenuEntry mnuFile{*this, "mnuFile", "&File"};
   MenuEntry mnuSetup{mnuFile, "mnuSetup", "&Setup"};
-  MenuEntry mnuBackup{mnuFile, "mnuBackup", "&Backup"};
-  MenuEntry mnuRestore{mnuFile, "mnuRestore", "&Restore"};
+  MenuEntry mnuBackup{mnuFile, "mnuBackup", "&Backup", "backup"};
+  MenuEntry mnuRestore{mnuFile, "mnuRestore", "&Restore", "restore"};
   MenuEntry mnuRepair{mnuFile, "mnuRepair", "Repair/&Compact Data"};
-  MenuEntry mnuExit{mnuFile, "mnuExit", "&Exit"};
+  MenuEntry mnuExit{mnuFile, "mnuExit", "&Exit", "exit"};
   MenuEntry mnuEdit{*this, "mnuEdit", "&Edit"};
-  MenuEntry mnuClient{mnuEdit, "mnuClient", "&Client"};
-  MenuEntry mnuNewClient{mnuEdit, "mnuNewClient", "&New Client"};
-  MenuEntry mnuDelete{mnuEdit, "mnuDelete", "&Delete Client"};
-  MenuEntry mnuNewInvoice{mnuEdit, "mnuNewInvoice", "New &Invoice"};
-  MenuEntry mnuVendors{mnuEdit, "mnuVendors", "&Vendors"};
+  MenuEntry mnuClient{mnuEdit, "mnuClient", "&Client", "client"};
+  MenuEntry mnuNewClient{mnuEdit, "mnuNewClient", "&New Client", "client-new"};
+  MenuEntry mnuDelete{mnuEdit, "mnuDelete", "&Delete Client", "delete"};
+  MenuEntry mnuNewInvoice{mnuEdit, "mnuNewInvoice", "New &Invoice", "invoice-new"};
+  MenuEntry mnuVendors{mnuEdit, "mnuVendors", "&Vendors", "vendors"};
   MenuEntry mnuTables{*this, "mnuTables", "&Tables"};
-  MenuEntry mnuInvoices{mnuTables, "mnuInvoices", "Client &Invoices"};
-  MenuEntry mnuReceive{mnuTables, "mnuReceive", "Client &Receipts"};
-  MenuEntry mnuPay{mnuTables, "mnuPay", "&Payment/Deposit Registry"};
-  MenuEntry mnuInventory{mnuTables, "mnuInventory", "&Inventory Maintenance"};
+  MenuEntry mnuInvoices{mnuTables, "mnuInvoices", "Client &Invoices", "invoices"};
+  MenuEntry mnuReceive{mnuTables, "mnuReceive", "Client &Receipts", "receipts"};
+  MenuEntry mnuPay{mnuTables, "mnuPay", "&Payment/Deposit Registry", "registry"};
+  MenuEntry mnuInventory{mnuTables, "mnuInventory", "&Inventory Maintenance", "inventory"};
   MenuEntry mnuPrint{*this, "mnuPrint", "&Print"};
   MenuEntry mnuBackOrder{mnuPrint, "mnuBackOrder", "Back &Orders"};
-  MenuEntry mnuOrdering{mnuBackOrder, "mnuOrdering", "&Ordering"};
+  MenuEntry mnuOrdering{mnuBackOrder, "mnuOrdering", "&Ordering", "order"};
   MenuEntry mnuOrdered{mnuBackOrder, "mnuOrdered", "O&rdered"};
   MenuEntry mnuBilling{mnuPrint, "mnuBilling", "&Billing"};
   MenuEntry mnuPrintInventory{mnuPrint, "mnuPrintInventory", "&Inventory"};
@@ -70,8 +70,8 @@ class Customer : public Form {
   MenuEntry mnu90days{mnuPrintClients, "mnu90days", "&90 days"};
   MenuEntry mnuIncomeStatement{mnuPrint, "mnuIncomeStatement", "I&ncome Statement"};
   MenuEntry mnuHelp{*this, "mnuHelp", "&Help"};
-  MenuEntry mnuContents{mnuHelp, "mnuContents", "&Contents"};
-  MenuEntry mnuAbout{mnuHelp, "mnuAbout", "&About Norvane"};
+  MenuEntry mnuContents{mnuHelp, "mnuContents", "&Contents", "help"};
+  MenuEntry mnuAbout{mnuHelp, "mnuAbout", "&About Norvane", "about"};
 
   /// Empties the list, headings and widths as at first.
   void ClearList();

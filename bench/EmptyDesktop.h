@@ -6,7 +6,7 @@
 
 namespace norvane {
 
-/// Nobody looks and nobody answers; a box ends the bench.
+/// A desktop that shows nothing and answers nothing; a box ends the bench.
 class EmptyDesktop : public Desktop {
  public:
   Date Now() const override { return Date::FromYearMonthDay(2026, 11, 22); }

@@ -37,7 +37,7 @@ class DraftFile {
   DraftFile& operator=(const DraftFile&) = delete;
 
   const std::filesystem::path& Path() const { return draft_; }
-  /// A link, not a renaming, since it fails where a file stands.
+  /// A link, not a renaming, since it fails where a file is.
   void Keep() const {
     if (link(draft_.c_str(), target_.c_str()) != 0) throw std::runtime_error(target_.string() + ": " + strerror(errno));
   }
@@ -57,7 +57,7 @@ void Fill(const std::filesystem::path& file, const std::string& schema) {
 }
 
 void Make(const std::filesystem::path& schema, const std::filesystem::path& target) {
-  umask(S_IRWXG | S_IRWXO | S_IXUSR);  // names and card numbers will stand in it
+  umask(S_IRWXG | S_IRWXO | S_IXUSR);  // it will hold names and card numbers
   const std::string statements = ReadText(schema);
   const DraftFile draft(target);
   Fill(draft.Path(), statements);

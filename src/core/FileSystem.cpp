@@ -34,7 +34,7 @@ struct CloseFolder {
   void operator()(DIR* folder) const { closedir(folder); }
 };
 
-/// The names in a folder but "." and "..". The value of errno tells why there are none.
+/// The names in a folder but "." and "..". The value of errno says why there are none.
 std::vector<std::string> NamesIn(const fs::path& folder) {
   const std::unique_ptr<DIR, CloseFolder> open(opendir(folder.c_str()));
   std::vector<std::string> names;

@@ -128,8 +128,8 @@ bool HasTwelveHours(std::string_view timeFormat) {
 
 template <std::size_t count>
 void SetNames(std::array<std::string, count>& names, const std::vector<std::string>& facts) {
-  const auto told = [](const std::string& name) { return !name.empty(); };
-  if (facts.size() == count && std::all_of(facts.begin(), facts.end(), told)) {
+  const auto known = [](const std::string& name) { return !name.empty(); };
+  if (facts.size() == count && std::all_of(facts.begin(), facts.end(), known)) {
     std::copy(facts.begin(), facts.end(), names.begin());
   }
 }

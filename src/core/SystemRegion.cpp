@@ -52,8 +52,8 @@ std::string Utf8(const char* text) {
 }
 
 LocaleFacts::MoneyLayout Layout(char symbolFirst, char blankBetween, char signPlace) {
-  const auto told = [](char number) { return number == CHAR_MAX ? -1 : int{number}; };
-  return {told(symbolFirst), told(blankBetween), told(signPlace)};
+  const auto known = [](char number) { return number == CHAR_MAX ? -1 : int{number}; };
+  return {known(symbolFirst), known(blankBetween), known(signPlace)};
 }
 
 std::vector<std::string> Names(std::initializer_list<nl_item> items) {

@@ -14,8 +14,8 @@ using Twips = double;
 /// What of a control has changed, for the side that draws it.
 enum class Aspect { Text, Caption, Items, State, Enabled, Visible, Place, Colour, ToolTip, Focus, Pages };
 
-/// A named part of a form: state, events, and the operations of a user. It draws nothing; whoever draws it observes it
-/// and holds no truth of its own.
+/// A named part of a form: state, events, and the operations of a user. It draws nothing; the side that
+/// draws observes it and holds no truth of its own.
 class Control {
   Form& form_;  // before the events, which are made from it
 

@@ -35,7 +35,7 @@ void PrtBilling::Form_Load() {
   });
 }
 
-// Balance and date of the row are converted, though nobody uses them: a balance beyond 16 bits or a client without a
+// Balance and date of the row are converted, though nothing uses them: a balance beyond 16 bits or a client without a
 // last payment ends the report here.
 void PrtBilling::PrintSelectedClient(const Billing& criteria, const CompanyHeading& company) {
   const int row = criteria.CustList2.Row();

@@ -198,7 +198,7 @@ void FormWindow::Withdraw() {
   hide();
 }
 
-/// What stands above another window.
+/// What is kept above another window.
 bool FormWindow::IsSmall() const {
   return form_->Style().goesWithOwner || form_->IsModal() || !form_->Style().resizable;
 }

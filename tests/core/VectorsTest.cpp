@@ -17,7 +17,7 @@ namespace {
 
 using Row = std::vector<std::string>;
 
-/// The rows of a table below the line of headings, which also tells how many columns there are.
+/// The rows of a table below the line of headings, which also says how many columns there are.
 std::vector<Row> Table(const std::string& name) {
   std::ifstream file(std::string(NORVANES_VECTORS "/") + name);
   std::vector<Row> rows;

@@ -59,7 +59,7 @@ TEST_F(FailureTest, WhatCameBeforeTheRefusedStatementStaysDone) {
   }
 }
 
-/// A save deletes the row before it inserts it anew, so that one with an apostrophe loses what was there.
+/// A save deletes the row before it inserts it again, so that one with an apostrophe loses what was there.
 TEST_F(FailureTest, ARefusedSaveLosesTheRow) {
   const auto client = Opened<Client>();
   const auto invoice = Opened<Invoice>();

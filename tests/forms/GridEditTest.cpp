@@ -173,7 +173,7 @@ TEST_F(GridEditTest, LettersSearchADropDown) {
   Type(g, "chee");
   EXPECT_EQ(g.EditText(), "Cheese");
   Type(g, "v");
-  EXPECT_EQ(g.EditText(), "Visa") << "a letter that goes on with nothing begins anew";
+  EXPECT_EQ(g.EditText(), "Visa") << "a letter that goes on with nothing starts again";
   Type(g, "q");
   EXPECT_EQ(g.EditText(), "Visa");
   Type(g, "cc");

@@ -19,7 +19,7 @@ TEST_F(GridTest, ANewGridHasItsHeadingAloneAndTheFormatGivesColumns) {
   EXPECT_EQ(std::pair(fresh.Row(), fresh.Col()), std::pair(0, 1));
   EXPECT_EQ(list().Col(), 0);
   fresh.SetRows(3);
-  EXPECT_EQ(fresh.Row(), 1) << "the cursor stands on the first data row when there is one";
+  EXPECT_EQ(fresh.Row(), 1) << "the cursor is on the first data row when there is one";
 
   EXPECT_EQ(Row(0), "|Key|Name|Price");
   EXPECT_EQ(grid().Alignment(0), ColumnAlignment::Centre);
@@ -96,7 +96,7 @@ TEST_F(GridTest, AColumnsHelpersAndWhatItsCellsHoldAndShow) {
   g.SetCell(2, 2, "7");
   EXPECT_EQ(g.DisplayText(1, 2), "Visa; gold");
   EXPECT_EQ(g.Cell(1, 2), "4");
-  EXPECT_EQ(g.DisplayText(2, 2), "7") << "what is no key shows as it stands";
+  EXPECT_EQ(g.DisplayText(2, 2), "7") << "what is no key shows as it is";
   g.SetColComboList(2, "#4;Check");
   EXPECT_EQ(g.Cell(1, 2), "Visa; gold") << "a key of the old list takes the text it showed";
   EXPECT_EQ(g.Cell(2, 2), "7");

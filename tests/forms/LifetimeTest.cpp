@@ -149,7 +149,7 @@ TEST_F(LifetimeTest, TheProgramEndsWithItsLastVisibleForm) {
   Taken();
   program.screens.Unload("Main");
   EXPECT_EQ(program.screens.Find("Main"), nullptr);
-  EXPECT_FALSE(Touch("Main").IsLoaded()) << "its controls stay readable and aren't loaded anew";
+  EXPECT_FALSE(Touch("Main").IsLoaded()) << "its controls stay readable and aren't loaded again";
   program.screens.Unload("Other");
   EXPECT_THAT(log, ElementsAre("Main Unload", "Other Unload", "Other Terminate", "Hidden Unload", "Hidden Terminate",
                                "Main Terminate"));

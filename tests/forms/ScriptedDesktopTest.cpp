@@ -29,7 +29,7 @@ TEST_F(ScriptedDesktopTest, FailsOnModalFormsThatStandOrCameUnawaited) {
   EXPECT_NONFATAL_FAILURE(program.screens.Show("A", {.modal = true}), "Nobody expected this form to be modal: A");
   EXPECT_EQ(program.screens.Find("A"), nullptr);
   desktop.WhenModal("A", [](Form&) {});
-  EXPECT_NONFATAL_FAILURE(program.screens.Show("A", {.modal = true}), "Still stands after its step: A");
+  EXPECT_NONFATAL_FAILURE(program.screens.Show("A", {.modal = true}), "Still open after its step: A");
   EXPECT_EQ(program.screens.Find("A"), nullptr);
 }
 

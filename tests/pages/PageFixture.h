@@ -25,7 +25,7 @@ class PageFixture : public testing::Test {
   Pages Laid() const { return LayOut(report.Recorded().value(), metrics); }
   std::string Text() const { return PagesText(Laid(), metrics); }
 
-  /// All that stands on the pages, blanks left out.
+  /// All text of the pages without spaces.
   std::string Letters() const {
     const Pages pages = Laid();
     std::string letters;

@@ -113,7 +113,7 @@ TEST_F(Tables, SplitsARowThatIsTallerThanAPage) {
   std::string once = Letters();
   const std::string heading = "DateDescriptionBalance";
   for (std::size_t at; (at = once.find(heading)) != std::string::npos;) once.erase(at, heading.size());
-  // The short cells stand beside the first piece of the long one.
+  // The short cells are beside the first piece of the long one.
   once.erase(once.find("$1.00"), 5);
   std::erase(notes, ' ');
   EXPECT_EQ(once, "1/2/2026" + notes + "1/3/2026next$2.00");

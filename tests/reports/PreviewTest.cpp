@@ -13,7 +13,7 @@ class Window : public Form {
 class PreviewTest : public ReportOffice {
  protected:
   PreviewTest() {
-    preview.observer = [this](Aspect aspect) { told.push_back(aspect); };
+    preview.observer = [this](Aspect aspect) { seen.push_back(aspect); };
   }
 
   void Record(int pageCount) {
@@ -24,7 +24,7 @@ class PreviewTest : public ReportOffice {
 
   Window window{program};
   Preview& preview = window.Viewer;
-  std::vector<Aspect> told;
+  std::vector<Aspect> seen;
 };
 
 TEST_F(PreviewTest, LaysOutWhatStandsNowAndTellsOfPagesWhenTheDocumentEnds) {
@@ -42,9 +42,9 @@ TEST_F(PreviewTest, LaysOutWhatStandsNowAndTellsOfPagesWhenTheDocumentEnds) {
   preview.SetFooter("foot");
   EXPECT_THAT(WordsOf(preview), ElementsAre("first", "Heading", "cell", "foot"));
   EXPECT_EQ(&preview.Pages(), &preview.Pages());
-  told.clear();
+  seen.clear();
   preview.EndDocument();
-  EXPECT_THAT(told, ElementsAre(Aspect::Pages));
+  EXPECT_THAT(seen, ElementsAre(Aspect::Pages));
   preview.Clear();
   EXPECT_EQ(preview.PageCount(), 0);
 }
@@ -73,7 +73,7 @@ TEST_F(PreviewTest, IsZoomedByPercentOrByChoice) {
   EXPECT_EQ(preview.Zoom(), Preview::kLargestZoom);
   preview.SetZoom(0);
   EXPECT_EQ(preview.Zoom(), Preview::kSmallestZoom);
-  EXPECT_THAT(told, ElementsAre(Aspect::State, Aspect::State, Aspect::State));
+  EXPECT_THAT(seen, ElementsAre(Aspect::State, Aspect::State, Aspect::State));
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ using ::testing::HasSubstr;
 using ::testing::IsSupersetOf;
 using ::testing::Not;
 
-/// The program with its data objects, as it stands when a report is opened, on a database of its own.
+/// The program with its data objects, as it is when a report is opened, on a database of its own.
 class ReportOffice : public ::testing::Test {
  protected:
   ReportOffice() {
@@ -55,7 +55,7 @@ class ReportOffice : public ::testing::Test {
     preview.SetFontMetrics(&metrics);
     return preview.Pages();
   }
-  /// What stands where, without the rules.
+  /// The texts with their places, without the rules.
   std::string TextOf(Preview& preview) {
     pages::Pages written = PagesOf(preview);
     for (pages::Page& page : written.pages) page.lines.clear();

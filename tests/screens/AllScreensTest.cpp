@@ -67,7 +67,7 @@ class Inspection {
   }
 
   void CheckPlaced(const Control& control, bool labelled) {
-    if (!placed_.insert(&control).second) Fault(control.Name() + " stands in the layout twice");
+    if (!placed_.insert(&control).second) Fault(control.Name() + " is in the layout twice");
     if (NeedsLabel(control) && !labelled && control.ToolTip().empty()) Fault(control.Name() + " has no label");
   }
 
@@ -83,7 +83,7 @@ class Inspection {
       if (control->Name().empty() || !names.insert(control->Name()).second)
         Fault(control->Name() + " is no name of its own");
       const bool drawn = !dynamic_cast<const Timer*>(control) && !dynamic_cast<const MenuEntry*>(control);
-      if (drawn && !placed_.contains(control)) Fault(control->Name() + " stands nowhere");
+      if (drawn && !placed_.contains(control)) Fault(control->Name() + " is nowhere in the layout");
       if (auto* button = dynamic_cast<const Button*>(control)) CheckButton(*button);
     }
   }

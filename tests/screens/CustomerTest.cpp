@@ -170,7 +170,7 @@ TEST_F(CustomerTest, SetsWhatTheScreensItOpensRead) {
   EXPECT_EQ(globals.AgingDays, 30);
   Main().mnu60days.Choose();
   EXPECT_EQ(globals.AgingDays, 60);
-  EXPECT_THAT(desktop.log, Contains("hide Prt30Days")) << "an open list is made anew";
+  EXPECT_THAT(desktop.log, Contains("hide Prt30Days")) << "an open list is made again";
   Main().mnu90days.Choose();
   EXPECT_EQ(globals.AgingDays, 90);
   globals.CurCatNum = 5;

@@ -43,7 +43,7 @@ TEST_F(InvoiceDetailTest, ReadsCurrencyTextBackAsNothing) {
   InvoiceDetail& again = Open(1001);
   again.txtInterest.UserType("2.25");
   again.btnSave.Press();
-  EXPECT_EQ(Stored("Tax||' '||ShippingCharge||' '||Interest"), "0 0 22500") << "only what was typed anew is kept";
+  EXPECT_EQ(Stored("Tax||' '||ShippingCharge||' '||Interest"), "0 0 22500") << "only what was typed again is kept";
   EXPECT_EQ(again.txtTax.Text(), "$1.50") << "the screen still shows it";
   EXPECT_EQ(again.lblTotal.Caption(), "$19.75");
 }
@@ -73,7 +73,7 @@ TEST_F(InvoiceDetailTest, StartsANewInvoiceFromWhatTheLastOneHeld) {
             "1501|Grace|Net 30|$1.50|Pick up Any|");
   EXPECT_EQ(Sheet().lblTotal.Caption(), "") << "no total until a line is left";
 
-  // Reading the sales list makes the shared invoice anew.
+  // Reading the sales list recreates the shared invoice.
   Main().btnDetails.Press();
   Main().btnNewInvoice.Press();
   EXPECT_EQ(Sheet().txtSalesRep.Text() + Sheet().txtTax.Text(), "$0.00");
@@ -84,7 +84,7 @@ TEST_F(InvoiceDetailTest, DropsChangesWithoutAQuestionForTheNextInvoice) {
   sheet.txtDescription.UserType("lost");
   sheet.btnNew.Press();
   EXPECT_EQ(sheet.lblInvoiceNum.Caption() + sheet.txtDescription.Text(), "1002");
-  EXPECT_EQ(sheet.lblTotal.Caption(), "$10.00") << "the earlier total stands until the next one";
+  EXPECT_EQ(sheet.lblTotal.Caption(), "$10.00") << "the earlier total stays until the next one";
   EXPECT_EQ(sheet.ItemList.Rows(), 1);
   EXPECT_EQ(Stored("Description"), "Order 1001");
   sheet.btnSave.Press();

@@ -54,7 +54,7 @@ TEST_F(InvoiceItemsTest, PicksDownToTheLastOneAndBeyond) {
   EXPECT_EQ(Sheet().ItemList.Col(), InvoiceDetail::kQuantity);
 }
 
-/// Every step of a counted line's life: the stock before, the edits, and what stands after each.
+/// Every step of a counted line's life: the stock before, the edits, and what is there after each.
 TEST_F(InvoiceItemsTest, MovesStockAndBackOrderWithTheQuantity) {
   SetStock(2);
   OpenWithLines({1});

@@ -57,10 +57,10 @@ TEST_F(ProfileTest, SavesANewClientWithEveryField) {
   EXPECT_EQ(Main().CustList2.Rows(), 5);
   AddClient(1005, "Zola", "Emil");
   profile.btnSave.Press();
-  EXPECT_EQ(Main().CustList2.Rows(), 5) << "the list is read anew only for what it shows";
+  EXPECT_EQ(Main().CustList2.Rows(), 5) << "the list is read again only for what it shows";
   EXPECT_EQ(Connections(), 0);
 
-  // Read back, every field stands where it was typed.
+  // Read back, every field is where it was typed.
   profile.btnExit.Press();
   Profile& again = OpenFor(4);
   EXPECT_EQ(again.lblCustNum.Caption(), "1004");
@@ -168,7 +168,7 @@ TEST_F(ProfileTest, DeletesOnYesAndClosesWithEitherAnswer) {
   Press(profile.btnDelete, "Delete Client ... Adams, Bea?", Answer::No);
   EXPECT_FALSE(IsOpen("Profile"));
   EXPECT_EQ(Stored("COUNT(*)"), "1");
-  EXPECT_EQ(Main().CustList2.Rows(), 5) << "the list is read anew";
+  EXPECT_EQ(Main().CustList2.Rows(), 5) << "the list is read again";
 
   Press(OpenFor(1).btnDelete, "Deleting a client is not recommended", Answer::Yes);
   EXPECT_FALSE(IsOpen("Profile"));

@@ -4,7 +4,7 @@
 
 namespace norvane {
 
-/// A clock that stands at one moment.
+/// A clock stopped at one moment.
 class FixedClock : public Clock {
  public:
   explicit FixedClock(Date now) : now_(now) {}

@@ -13,7 +13,7 @@ void Append(std::string& out, const char* format, Arguments... arguments) {
   out += buffer;
 }
 
-// Rounded first, so that no minus stands before a zero.
+// Rounded first, so that no zero has a minus.
 double Inches(double points) {
   return std::round(points / kPointsPerInch * 100) / 100 + 0.0;
 }

@@ -58,7 +58,7 @@ Answer ScriptedDesktop::Ask(const Message& message) {
 void ScriptedDesktop::FormShown(Form& form) {
   const bool isNew = shown_.insert_or_assign(form.Name(), &form).second;
   log.push_back((isNew ? "show " : "front ") + form.Name());
-  // A window that nobody gave a size asks for some.
+  // A window without a size of its own asks for some.
   if (form.Width() == 0) form.UserResize(8000, 6000);
 }
 
@@ -85,7 +85,7 @@ void ScriptedDesktop::RunModal(Form& form) {
     const auto step = found->step;
     modalSteps_.erase(found);
     step(form);
-    EXPECT_FALSE(form.IsVisible()) << "Still stands after its step: " << form.Name();
+    EXPECT_FALSE(form.IsVisible()) << "Still open after its step: " << form.Name();
   }
   if (form.IsVisible()) form.Unload();
 }

@@ -12,10 +12,10 @@
 
 namespace norvane::test {
 
-/// The outside world of a test: a clock that stands still, answers given beforehand, and a log of what was shown.
+/// The outside world of a test: a clock that is stopped, answers given beforehand, and a log of what was shown.
 ///
 /// It fails the test on a box that nobody expected, on an answer or step that nobody asked for (at its end), and on a
-/// modal form that still stands after its step. Make it before the program.
+/// modal form that is still open after its step. Make it before the program.
 class ScriptedDesktop : public Desktop {
  public:
   ScriptedDesktop();

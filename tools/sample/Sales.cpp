@@ -33,7 +33,7 @@ Day YearStart(Day today) {
 }
 
 std::vector<Invoice> PlanInvoices(Random& random, const Order& order, const std::vector<Client>& clients) {
-  std::vector<int> shoppers;  // companies stand there more often
+  std::vector<int> shoppers;  // companies are in it more often
   for (int client = 0; client < static_cast<int>(clients.size()); ++client)
     shoppers.insert(shoppers.end(), clients[static_cast<std::size_t>(client)].trade ? 6 : 1, client);
   const Day yearStart = YearStart(order.today);
@@ -109,7 +109,7 @@ class SalesWriter {
     WriteHeader(invoice, client, number, sum, description);
   }
 
-  /// Writes what stands only at the end: the stock, and which lines wait for it.
+  /// Writes what is known only at the end: the stock, and which lines wait for it.
   void Finish(Database& database) {
     stock_.Advance(order_.today);
     stock_.Write(database);

@@ -33,7 +33,7 @@ class Vendors : public Form {
   TextBox txtWebPage{*this, "txtWebPage"};
   TextBox txtPOnum{*this, "txtPOnum"};
   TextBox txtDiscount{*this, "txtDiscount", {.characters = 8, .rightAligned = true}};
-  TextBox txtNotes{*this, "txtNotes", {.characters = 40, .lines = 3}};
+  TextBox txtNotes{*this, "txtNotes", {.characters = 40}};
 
  private:
   void Form_Load() override;

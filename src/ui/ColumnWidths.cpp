@@ -60,8 +60,9 @@ ColumnContent LookAt(const Grid& grid, int col, const CellTexts& texts, const QF
   int figures = 0;
   int exacts = 0;
   int others = 0;
-  const int rows = std::min(grid.Rows(), kRowsMeasured);
-  for (int row = 1; row < rows; ++row) {
+  // Spread over the whole list: a running balance is widest somewhere in the middle.
+  const int stride = 1 + (grid.Rows() - 1) / kRowsMeasured;
+  for (int row = 1; row < grid.Rows(); row += stride) {
     const QString text = ToQt(grid.DisplayText(row, col));
     content.width = std::max(content.width, metrics.horizontalAdvance(text));
     if (text.isEmpty()) continue;

@@ -93,10 +93,10 @@ void GL::SetUpGrid() {
                           {"^Num", 700},
                           {"Vendor", 1500},
                           {"Category", 800},
-                          {">Payment", 1000, ColumnType::Currency},
+                          {">Payment", 1000},
                           {"^CLR", 400, ColumnType::Boolean},
                           {">Deposit", 1000, ColumnType::Currency},
-                          {">Balance", 1000, ColumnType::Currency},
+                          {">Balance", 1000},
                           {"Notes", 1000}});
   PaymentList.SetColEditable(kBalance, false);
 }

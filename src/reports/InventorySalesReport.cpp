@@ -27,8 +27,10 @@ void InventorySalesReport::Form_Load() {
   });
 }
 
+// A date typed into a box doesn't count: the boxes show again the dates that do.
 void InventorySalesReport::SetForm() {
   Build(kind_.labels.setForm, [this] {
+    SetPeriod(DTbegdate.Value(), dtEndDate.Value());
     Reports reports(workspace);
     reports.BegDate = DTbegdate.Value();
     reports.EndDate = dtEndDate.Value();

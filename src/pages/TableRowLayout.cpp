@@ -8,6 +8,8 @@ namespace {
 constexpr float kSmallestShrunkSize = 7.0F;
 constexpr std::size_t kMostShrunkLines = 2;
 constexpr float kSmallestShareForWord = 0.7F;
+/// In points: so little of the padding a text may take before it is broken or set smaller.
+constexpr double kOverhang = 0.2;
 
 }  // namespace
 
@@ -18,7 +20,8 @@ void RowMeasurer::Measure(std::size_t number, MeasuredRow& measured) {
   measured.height = row.height ? *row.height - givenUp_ * SpareHeight(row) : LeastHeight();
   std::string_view rest = row.cells;
   for (std::size_t column = 0; column < table_.columns.size(); ++column) {
-    CellText cell{TakeCell(rest), table_.font, std::max(table_.columns[column].width - 2 * kCellPaddingAcross, 0.0)};
+    const double room = table_.columns[column].width - 2 * kCellPaddingAcross + kOverhang;
+    CellText cell{TakeCell(rest), table_.font, std::max(room, 0.0)};
     cell.font.face.bold |= IsBold(number, column + 1);
     measured.cells.push_back(MeasureCell(cell, row.height, measured.lines));
     if (!cell.text.empty()) measured.height = std::max(measured.height, measured.cells.back().Height());

@@ -3,9 +3,9 @@
 #include <benchmark/benchmark.h>
 
 #include "LongList.h"
+#include "SampleInvoice.h"
 #include "pages/Layout.h"
 #include "support/PinnedFontMetrics.h"
-#include "SampleInvoice.h"
 
 namespace norvane::pages {
 namespace {

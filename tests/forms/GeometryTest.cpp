@@ -51,8 +51,8 @@ struct MenuForm : Form {
   static constexpr const char* kName = "MenuForm";
   explicit MenuForm(Program& program_) : Form(program_, kName, {.width = 4000, .height = 3000}) {
     using namespace layout;
-    SetLayout(Column({Strip({button, Space()}), Tabs(tabs, {{"One", Group(frame, Field("&Name:", second))},
-                                                            {"Two", Stretch(Row({first}))}})}));
+    SetLayout(Column({Strip({button, Space()}),
+                      Tabs(tabs, {{"One", Group(frame, Field("&Name:", second))}, {"Two", Stretch(Row({first}))}})}));
   }
   MenuEntry menu{*this, "mnuFile", "&File"};
   TextBox first{*this, "first"};

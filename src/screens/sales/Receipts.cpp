@@ -312,7 +312,7 @@ void Receipts::Form_Resize() {
   Trapped("Receipts.Form_Resize -", [&] {
     PaymentList.SetLeft(720);
     if (ScaleWidth() > 900) PaymentList.SetWidth(ScaleWidth() - 900);
-    PaymentList.SetHeight(std::max(0.0, ScaleHeight() - 1100));
+    PaymentList.SetHeight(ScaleHeight() - 1100);
     const Twips left = ScaleWidth() - Command2.Width() - 200;
     if (left >= 0) Command2.SetLeft(left);
     btnPrint.SetLeft(Command2.Left() - btnPrint.Width() - 20);

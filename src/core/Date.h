@@ -26,7 +26,7 @@ class Date {
 
   friend constexpr Date operator+(Date date, double days) { return Date(date.serial_ + days); }
   friend constexpr Date operator-(Date date, double days) { return Date(date.serial_ - days); }
-  constexpr auto operator<=>(const Date&) const = default;
+  constexpr auto operator<=>(const Date&) const = default;  // NOLINT(modernize-use-nullptr): clang-tidy 14 errs
 
  private:
   double serial_ = 0;

@@ -25,7 +25,7 @@ class Currency {
   friend Currency operator-(Currency a, Currency b) { return a -= b; }
   /// Currency with Currency is Currency: the product rounded half to even to four decimals.
   friend Currency operator*(Currency a, Currency b);
-  constexpr auto operator<=>(const Currency&) const = default;
+  constexpr auto operator<=>(const Currency&) const = default;  // NOLINT(modernize-use-nullptr): clang-tidy 14 errs
 
  private:
   constexpr explicit Currency(std::int64_t count) : count_(count) {}

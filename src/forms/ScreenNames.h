@@ -56,9 +56,12 @@ inline constexpr char kPrtInvoice[] = "PrtInvoice";
 inline constexpr char kPrtReceipt[] = "PrtReceipt";
 inline constexpr char kPrtRegistry[] = "PrtRegistry";
 
-// Maintenance; the last is an action.
+// Maintenance; the last two are actions.
+inline constexpr char kDailyCopy[] = "DailyCopy";
 inline constexpr char kfrmBackup[] = "frmBackup";
 inline constexpr char kfrmRestore[] = "frmRestore";
+inline constexpr char kWorking[] = "Working";
 inline constexpr char kCompactDatabaseFile[] = "CompactDatabaseFile";
+inline constexpr char kKeepCopyBeforeDeletion[] = "KeepCopyBeforeDeletion";
 
 }  // namespace norvane::screen

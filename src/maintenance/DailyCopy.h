@@ -4,6 +4,7 @@
 
 #include "forms/Form.h"
 #include "forms/ProgressBar.h"
+#include "forms/ScreenNames.h"
 #include "maintenance/KeptCopies.h"
 
 namespace norvane {
@@ -12,7 +13,7 @@ namespace norvane {
 /// doesn't show it.
 class DailyCopy : public Form {
  public:
-  static constexpr const char* kName = "DailyCopy";
+  static constexpr const char* kName = screen::kDailyCopy;
   explicit DailyCopy(Program& program);
 
   Label lblWork{*this, "lblWork", "Keeping a copy of today's data..."};

@@ -1,7 +1,6 @@
 #include "maintenance/Maintenance.h"
 
 #include "core/FileNames.h"
-#include "forms/ActionNames.h"
 #include "forms/Program.h"
 #include "forms/ScreenNames.h"
 #include "maintenance/Compaction.h"
@@ -20,7 +19,7 @@ void RegisterMaintenance(Program& program) {
   screens.Add<frmRestore>();
   screens.Add<Working>();
   screens.AddAction(screen::kCompactDatabaseFile, [&program] { CompactDatabaseFile(program, kDatabaseFile); });
-  screens.AddAction(action::kKeepCopyBeforeDeletion, [&program] { KeepCopy(program, kBeforeDeletion); });
+  screens.AddAction(screen::kKeepCopyBeforeDeletion, [&program] { KeepCopy(program, kBeforeDeletion); });
 }
 
 void KeepDailyCopy(Program& program) {

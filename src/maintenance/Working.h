@@ -12,7 +12,7 @@ namespace norvane {
 /// The notice that shows how far a piece of work on the database file is.
 class Working : public Form {
  public:
-  static constexpr const char* kName = "Working";
+  static constexpr const char* kName = screen::kWorking;
   explicit Working(Program& program);
 
   Label lblWork{*this, "lblWork", "Working"};

@@ -2,8 +2,8 @@
 
 #include "core/Trap.h"
 #include "data/Client.h"
-#include "forms/ActionNames.h"
 #include "forms/Form.h"
+#include "forms/ScreenNames.h"
 #include "screens/clients/RefreshCustList.h"
 #include "screens/sales/InvoiceShown.h"
 
@@ -34,7 +34,7 @@ void DeleteClient(Program& program, const ClientShown& client) {
   if (ConfirmDelete(program.desktop, client.name)) {
     // What they still have to store belongs to the client, too.
     CloseScreensOf(program.screens, client.number);
-    if (program.screens.Has(action::kKeepCopyBeforeDeletion)) program.screens.Run(action::kKeepCopyBeforeDeletion);
+    if (program.screens.Has(screen::kKeepCopyBeforeDeletion)) program.screens.Run(screen::kKeepCopyBeforeDeletion);
     const Object<Client> clients = program.globals.oClient;
     clients->OpenCn();
     clients->DeleteClient(client.number);

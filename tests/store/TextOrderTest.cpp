@@ -1,15 +1,15 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 
+#include "core/TextFolding.h"
 #include "store/StoreTest.h"
-#include "store/internal/TextFolding.h"
 
 namespace norvane {
 namespace {
 
 std::string FoldKey(std::string_view text) {
   std::string key;
-  store::FoldKey(text, key);
+  norvane::FoldKey(text, key);
   return key;
 }
 
@@ -32,10 +32,9 @@ TEST(TextFolding, EqualsInCaseAlone) {
 TEST(TextFolding, MatchesPatterns) {
   for (const auto& [text, pattern] :
        {std::pair{"Smith", "s%"}, {"Smith", "%I_h"}, {"Müller", "m_LL%"}, {"", "%"}, {"aXbXc", "a%x%c"}}) {
-    EXPECT_TRUE(store::MatchesPattern(text, pattern)) << pattern;
+    EXPECT_TRUE(MatchesPattern(text, pattern)) << pattern;
   }
-  for (const char* pattern : {"mith", "s%z", "smithson"})
-    EXPECT_FALSE(store::MatchesPattern("Smith", pattern)) << pattern;
+  for (const char* pattern : {"mith", "s%z", "smithson"}) EXPECT_FALSE(MatchesPattern("Smith", pattern)) << pattern;
 }
 
 TEST_F(StoreTest, ComparesAndSortsTextWithAccents) {

@@ -1,9 +1,9 @@
 #include "store/internal/ExpressionTyper.h"
 
 #include "core/Characters.h"
+#include "core/TextFolding.h"
 #include "store/internal/SqlFunctions.h"
 #include "store/internal/StoreError.h"
-#include "store/internal/TextFolding.h"
 
 namespace norvane::store {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "core/Characters.h"
 #include "core/RuntimeError.h"
+#include "core/TextFolding.h"
 #include "core/UnitedStates.h"
-#include "store/internal/TextFolding.h"
 
 namespace norvane::store {
 namespace {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "core/Characters.h"
+#include "core/TextFolding.h"
 #include "store/internal/StoreError.h"
-#include "store/internal/TextFolding.h"
 
 namespace norvane::store {
 namespace {

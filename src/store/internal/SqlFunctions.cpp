@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "core/TextFolding.h"
 #include "core/UnitedStates.h"
 #include "core/Val.h"
 #include "store/FieldType.h"
 #include "store/internal/Sqlite.h"
-#include "store/internal/TextFolding.h"
 
 namespace norvane::store {
 namespace {

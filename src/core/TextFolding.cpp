@@ -1,4 +1,4 @@
-#include "store/internal/TextFolding.h"
+#include "core/TextFolding.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -6,7 +6,7 @@
 #include "core/Characters.h"
 #include "core/Utf8.h"
 
-namespace norvane::store {
+namespace norvane {
 namespace {
 
 /// The plain letter of each accented one, by blocks of Latin letters. '.' means none, a digit the two letters under
@@ -179,4 +179,4 @@ bool MatchesPattern(std::string_view text, std::string_view pattern) {
   return wanted.find_first_not_of(U'%', next) == std::u32string::npos;
 }
 
-}  // namespace norvane::store
+}  // namespace norvane

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace norvane::store {
+namespace norvane {
 
 bool IsAscii(std::string_view text);
 
@@ -15,4 +15,4 @@ void FoldKey(std::string_view text, std::string& key);
 /// The store's `like`: % for any text, _ for one character, without regard to case.
 bool MatchesPattern(std::string_view text, std::string_view pattern);
 
-}  // namespace norvane::store
+}  // namespace norvane

@@ -100,24 +100,6 @@ std::uint32_t NextCharacter(std::string_view text, std::size_t& position) {
   return next.length == 1 ? byte : next.code;
 }
 
-void Append(std::string& text, std::uint32_t c) {
-  if (c < 0x80) {
-    text += static_cast<char>(c);
-  } else if (c < 0x800) {
-    text += static_cast<char>(0xC0 | c >> 6);
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    text += static_cast<char>(0xE0 | c >> 12);
-    text += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    text += static_cast<char>(0xF0 | c >> 18);
-    text += static_cast<char>(0x80 | (c >> 12 & 0x3F));
-    text += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 void AppendPlain(std::string& key, std::uint32_t lower) {
   if (Within(lower, 0x300, 0x36F)) return;  // an accent on its own belongs to the letter before it
   for (const Block& block : kBlocks) {
@@ -127,7 +109,7 @@ void AppendPlain(std::string& key, std::uint32_t lower) {
     key += plain > '5' ? std::string_view(&plain, 1) : kLigatures[plain - '0'];
     return;
   }
-  Append(key, PlainGreekOrCyrillic(lower));
+  AppendCharacter(key, PlainGreekOrCyrillic(lower));
 }
 
 std::u32string LowerCharacters(std::string_view text) {
@@ -152,7 +134,7 @@ void FoldKey(std::string_view text, std::string& key) {
   key.clear();
   for (std::size_t i = 0; i < text.size();) AppendPlain(key, Lower(NextCharacter(text, i)));
   key += kAccentsFollow;
-  for (std::size_t i = 0; i < text.size();) Append(key, Lower(NextCharacter(text, i)));
+  for (std::size_t i = 0; i < text.size();) AppendCharacter(key, Lower(NextCharacter(text, i)));
 }
 
 bool MatchesPattern(std::string_view text, std::string_view pattern) {

@@ -25,6 +25,8 @@ inline Character CharacterAt(std::string_view text, std::size_t place) {
 /// The bytes of what is seen as one character, with the marks set over it and what is joined to it.
 std::size_t ClusterLength(std::string_view text, std::size_t place);
 
+/// Adds a character to a text.
+void AppendCharacter(std::string& text, char32_t code);
 std::size_t CharacterCount(std::string_view text);
 /// The first `count` characters at most.
 std::string_view FirstCharacters(std::string_view text, std::size_t count);

@@ -25,6 +25,7 @@ class EmptyDesktop : public Desktop {
   std::filesystem::path DocumentsFolder() const override { return {}; }
   std::filesystem::path CurrentFolder() const override { return {}; }
   std::vector<std::filesystem::path> Drives() const override { return {}; }
+  std::filesystem::path AskForFile(const FileRequest&) override { return {}; }
 };
 
 }  // namespace norvane

@@ -32,6 +32,15 @@ struct Message {
   std::string details = "";  ///< what the user may ask to see besides
 };
 
+/// What the user is asked for in a dialog of the desktop's own.
+struct FileRequest {
+  enum class Kind { Open, Save, Folder };
+  Kind kind = Kind::Open;
+  std::string title;
+  std::string name = "";    ///< suggested
+  std::string ending = "";  ///< of the files offered, without its point; empty for all
+};
+
 /// Everything that the screens need from outside. The windows implement it; tests have a scripted one.
 class Desktop : public Reporter, public Clock {
  public:
@@ -71,6 +80,8 @@ class Desktop : public Reporter, public Clock {
   virtual std::filesystem::path CurrentFolder() const = 0;
   /// The roots a user can pick from: "/", the home folder, mounted media.
   virtual std::vector<std::filesystem::path> Drives() const = 0;
+  /// Asks for a file or folder. Empty if the user chooses none.
+  virtual std::filesystem::path AskForFile(const FileRequest& request) = 0;
 };
 
 }  // namespace norvane

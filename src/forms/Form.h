@@ -54,6 +54,8 @@ class Form {
   const layout::Node& Layout() const { return layout_; }
   const std::vector<Control*>& Controls() const { return controls_; }
   const std::vector<MenuEntry*>& MenuBar() const { return menuBar_; }
+  /// What closing by the frame presses; null if there is none.
+  const Button* ExitButton() const { return exitButton_; }
   /// Controls that take the focus, in the order of the layout.
   std::vector<Control*> TabOrder() const;
 

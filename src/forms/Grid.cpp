@@ -70,6 +70,7 @@ void Grid::RemoveItem(int row) {
 
 void Grid::Clear() {
   CancelEdit();
+  ClearMarks();
   model_->table.Clear();
   if (view) view->RowsReset();
 }
@@ -77,6 +78,8 @@ void Grid::Clear() {
 /// The cursor follows silently: to the first data row when there is one at last, back to the last when it was cut off.
 void Grid::RowsHaveChanged(int first, int change) {
   Model& m = *model_;
+  ClearMarks();
+  m.sortIsStale = true;
   const int rowsBefore = Rows() - change;
   const int cursor = std::exchange(m.row, std::min(rowsBefore == 1 ? 1 : m.row, m.LastRow()));
   const int top = std::exchange(m.topRow, std::min(m.topRow, m.LastTop()));
@@ -112,6 +115,7 @@ void Grid::SetCell(int row, int col, std::string_view text) {
   CheckRow(row);
   CheckCol(col);
   model_->table.SetCell(row, col, text);
+  model_->sortIsStale = true;
   if (view) view->CellChanged(row, col);
 }
 
@@ -143,6 +147,7 @@ void Grid::MoveTo(int row, int col) {
   if (IsAt(row, col)) return;
   LeaveCell.Raise();
   if (IsAt(row, col) || row >= Rows() || col >= Cols()) return;
+  if (row != model_->row && !model_->marking) ClearMarks();
   model_->row = row;
   model_->col = col;
   if (view) view->CursorMoved();

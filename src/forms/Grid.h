@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,8 @@
 #include "forms/Keys.h"
 
 namespace norvane {
+
+class Conversions;
 
 /// Lists only show rows; row-editing grids are edited in place.
 enum class GridKind { List, Editable };
@@ -25,6 +28,14 @@ struct GridColumnSetup {
   Twips width;  ///< 0 hides the column
   ColumnType type = ColumnType::Plain;
   std::string_view list = {};  ///< as SetColComboList takes it; empty leaves the column's list as it is
+  bool totalled = false;       ///< the line below the rows shows what they come to
+};
+
+/// The column that a list is sorted by.
+struct GridSort {
+  int col;
+  bool descending = false;
+  friend bool operator==(const GridSort&, const GridSort&) = default;
 };
 
 /// A row for AddItem: the cells joined with tabs. A tab or line break within a cell becomes a space.
@@ -78,6 +89,7 @@ class Grid : public Control {
   bool ColEditable(int col) const;
   /// Whether there is a column that the user may edit.
   bool EditsInPlace() const;
+  bool ColTotalled(int col) const;
 
   /// The content.
   std::string Cell(int row, int col) const;
@@ -109,6 +121,28 @@ class Grid : public Control {
   /// Set by the side that draws.
   void SetRowHeight(Twips height);
 
+  // Sorting, of lists that aren't edited in place. Rows move with the cursor and the marks on them; nothing is raised.
+  bool Sortable() const;
+  /// For a list whose order is its meaning.
+  void SetSortable(bool sortable);
+  /// By the values of a column: amounts, numbers and days by size, texts as people expect, an empty cell first. A
+  /// second click on the heading turns the order round. Nothing happens where the list can't be sorted.
+  void UserSort(int col, const Conversions& convert);
+  const std::optional<GridSort>& SortedBy() const;
+  /// Sorts again what has been added or written since.
+  void KeepSorted(const Conversions& convert);
+
+  // Marks: rows of a list to copy or add up, the current one always among them. What commands act on is the current row
+  // alone. A move of the cursor takes all marks away.
+  bool IsMarked(int row) const;
+  /// In their order; none if the cursor is on the heading.
+  std::vector<int> MarkedRows() const;
+  /// Marks a row, where the cursor goes as by a click; or takes its mark away, unless it is the current one.
+  void UserToggleMark(int row);
+  /// Marks from the row where marking began to this one, where the cursor goes.
+  void UserMarkTo(int row);
+  void UserMarkAll();
+
   // Editing: what a user does to the current cell. BeginEdit is refused (false) where the cell cannot be edited.
   enum class BeginBy { Typing, Command };
   bool Editing() const;
@@ -129,6 +163,8 @@ class Grid : public Control {
   void UserClick(int row, int col);
   /// The second click of a double click; the first has come as UserClick.
   void UserDoubleClick(int row, int col);
+  /// What asks for the menu of a row: the cursor goes there as by a click, unless the row is marked. Ticks nothing.
+  void UserContext(int row, int col);
   /// A key that is no character. False if the grid has no use for it (Tab after the last cell), so that the form may.
   bool UserKey(Key key, KeyModifiers modifiers = {});
   /// The user has searched for the row: the cursor goes there as by an arrow key.
@@ -160,6 +196,11 @@ class Grid : public Control {
   void ScrollIntoView();
   void MoveTo(int row, int col);
   void MoveByKey(int row, int col);
+  bool TakesMarks() const;
+  void ClearMarks();
+  void MarkFrom(int row);
+  bool MarkBy(Key key, KeyModifiers modifiers);
+  void SortRows(const Conversions& convert);
   bool IsAt(int row, int col) const;
   bool CanEdit() const;
   bool AskBeforeEdit();

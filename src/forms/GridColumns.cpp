@@ -75,6 +75,7 @@ void Grid::SetCols(int cols) {
   if (cols < before) {
     CancelEdit();
     model_->table.CutColumns(cols);
+    if (model_->sort && model_->sort->col >= cols) model_->sort.reset();
   }
   model_->columns.resize(static_cast<std::size_t>(cols));
   for (int col = before; col < cols; ++col) {
@@ -105,6 +106,7 @@ void Grid::SetColumns(std::initializer_list<GridColumnSetup> columns) {
     model_->table.SetCell(0, col, heading);
     column.width = setup.width;
     column.type = setup.type;
+    column.totalled = setup.totalled;
     if (!setup.list.empty()) SetColComboList(col, setup.list);
     ++col;
   }
@@ -143,6 +145,11 @@ void Grid::SetColEditable(int col, bool editable) {
   CheckCol(col);
   model_->Column(col).editable = editable;
   if (view) view->ColumnsChanged();
+}
+
+bool Grid::ColTotalled(int col) const {
+  CheckCol(col);
+  return model_->Column(col).totalled;
 }
 
 bool Grid::ColEditable(int col) const {

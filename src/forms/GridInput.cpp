@@ -12,6 +12,7 @@ void Grid::UserClick(int row, int col) {
   SetFocus();
   if (!Parent().IsLoaded() || row < 1 || row >= Rows() || col >= Cols()) return;
   if (col < model_->FirstCol()) col = Col();
+  if (!model_->marking) ClearMarks();
   MoveTo(row, col);
   Click.Raise();
   if (Parent().IsLoaded() && IsAt(row, col)) ToggleCheck();
@@ -27,6 +28,15 @@ void Grid::UserDoubleClick(int row, int col) {
   const bool hadFocus = HasFocus();
   DblClick.Raise();
   if (IsAt(row, col) && HasFocus() == hadFocus) BeginEdit();
+}
+
+void Grid::UserContext(int row, int col) {
+  if (!Enabled()) return;
+  const Dispatch dispatch(Parent());
+  SetFocus();
+  if (!Parent().IsLoaded() || row < 1 || row >= Rows() || col >= Cols() || IsMarked(row)) return;
+  MoveTo(row, std::max(col, model_->FirstCol()));
+  Click.Raise();
 }
 
 void Grid::PressCellButton() {
@@ -111,7 +121,7 @@ bool Grid::KeyOutsideEdit(Key key, KeyModifiers modifiers) {
     OpenHelper();
     return true;
   }
-  return MoveBy(key, modifiers);
+  return modifiers.shift && TakesMarks() ? MarkBy(key, modifiers) : MoveBy(key, modifiers);
 }
 
 void Grid::UserFind(int row) {

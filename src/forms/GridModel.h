@@ -16,6 +16,7 @@ struct GridColumn {
   ColumnType type = ColumnType::Plain;
   CellHelper helper = CellHelper::None;
   bool editable = false;
+  bool totalled = false;
   std::vector<std::string> items;  ///< the texts of its drop-down
   std::vector<std::string> keys;   ///< their keys, if it is a keyed one
 
@@ -47,6 +48,12 @@ struct Grid::Model {
   int visibleRows = 5;
   Twips rowHeight = 300;
   std::optional<GridEdit> edit;
+  bool sortable = true;
+  std::optional<GridSort> sort;
+  bool sortIsStale = false;     ///< rows were added or written since
+  std::vector<bool> marks;      ///< by row, the current one aside; shorter where there are none
+  std::optional<int> markFrom;  ///< where marking began
+  bool marking = false;         ///< the cursor moves without an end to the marks
 
   GridColumn& Column(int at) { return columns[static_cast<std::size_t>(at)]; }
   int Rows() const { return table.Rows(); }

@@ -54,6 +54,14 @@ void GridTable::CutColumns(int cols) {
   for (auto& row : rows_) row.resize(FirstCells(row, cols).size());
 }
 
+void GridTable::Reorder(const std::vector<int>& order) {
+  std::vector<std::string> sorted;
+  sorted.reserve(rows_.size());
+  sorted.push_back(std::move(rows_.front()));
+  for (const int row : order) sorted.push_back(std::move(rows_[static_cast<std::size_t>(row)]));
+  rows_ = std::move(sorted);
+}
+
 std::string_view GridTable::Cell(int row, int col) const {
   const std::string_view cells = rows_[static_cast<std::size_t>(row)];
   const auto begin = CellBegin(cells, col);

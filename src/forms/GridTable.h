@@ -18,6 +18,8 @@ class GridTable {
   /// Empties the rows and gives back what they held.
   void Clear();
   void CutColumns(int cols);
+  /// Puts the data rows into this order: `order` names for each place from row 1 on the row that comes there.
+  void Reorder(const std::vector<int>& order);
 
   /// Good until the row changes.
   std::string_view Cell(int row, int col) const;

@@ -17,6 +17,11 @@ void Preview::SetTitle(std::string title) {
   Notify(Aspect::Caption);
 }
 
+void Preview::SetLetter(Letter letter) {
+  letter_ = std::move(letter);
+  Notify(Aspect::Caption);
+}
+
 void Preview::SetFontMetrics(const pages::FontMetrics* metrics) {
   metrics_ = metrics;
   laidOut_.reset();

@@ -16,6 +16,12 @@ enum class ZoomChoice { Percent, WholePage, PageWidth, TwoPages, Thumbnail };
 
 inline constexpr const char* kZoomChoices = "Whole &Page|Page &Width|&Two Pages|Thumb&nail";
 
+/// How a document made out to one client is sent.
+struct Letter {
+  std::string address;  ///< empty if it isn't known
+  std::string subject;
+};
+
 /// The control in which a report builds its document, and which shows and prints the pages.
 ///
 /// It holds the document and how it is viewed. The drawing side provides the metrics of its fonts and asks for the
@@ -29,6 +35,9 @@ class Preview : public Control, public pages::DocumentBuilder {
   /// The document's name for printers and files: the one set, else the caption of the window.
   const std::string& Title() const;
   void SetTitle(std::string title);
+  /// Nothing for a document that isn't made out to one client.
+  const std::optional<Letter>& SentAs() const { return letter_; }
+  void SetLetter(Letter letter);
 
   /// Not owned. Pass nullptr before destroying them.
   void SetFontMetrics(const pages::FontMetrics* metrics);
@@ -59,6 +68,7 @@ class Preview : public Control, public pages::DocumentBuilder {
   void Ended() override;
 
   std::string title_;
+  std::optional<Letter> letter_;
   double zoom_ = 100.0;
   ZoomChoice choice_ = ZoomChoice::Percent;
   int currentPage_ = 1;

@@ -21,8 +21,11 @@ Billing::Billing(Program& host)
 
 void Billing::Form_Load() {
   Trapped("Billing.Form_Load -", [this] {
-    CustList2.SetColumns(
-        {{"CustNum", 0}, {"Name", 1800}, {">Balance", 1000}, {"^Last Pmt Date", 1500}, {">Last Pmt Amt", 1500}});
+    CustList2.SetColumns({{"CustNum", 0},
+                          {"Name", 1800},
+                          {">Balance", 1000, ColumnType::Currency, "", true},
+                          {"^Last Pmt Date", 1500},
+                          {">Last Pmt Amt", 1500}});
     const Object<Client> client = globals.oClient;
     client->OpenCn();
     ListClients(*client);

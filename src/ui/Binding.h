@@ -33,6 +33,10 @@ class Binding : public QObject {
   /// Sets the label that is shown and hidden with the widget.
   void SetCompanion(QWidget* companion);
 
+  /// What stands directly below the widget, null for nothing.
+  QWidget* Below() const { return below_; }
+  void SetBelow(QWidget* below) { below_ = below; }
+
   /// Called when the model has given the control the focus.
   std::function<void(Binding&)> focused;
 
@@ -48,6 +52,7 @@ class Binding : public QObject {
   Follow follow_;
   QKeySequence key_;
   QPointer<QWidget> companion_;
+  QPointer<QWidget> below_;
 };
 
 }  // namespace norvane::ui

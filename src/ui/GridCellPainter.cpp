@@ -70,7 +70,7 @@ void GridCellPainter::PaintGround(QPainter& painter, const QStyleOptionViewItem&
   const bool isMarker = grid_->Kind() == GridKind::Editable && index.column() == 0;
   const QColor& selected = grid_->HasFocus() ? colours.current : colours.idle;
   const QColor& plain = !isEditable && index.row() % 2 == 1 ? colours.stripe : colours.surface;
-  painter.fillRect(option.rect, isCurrentRow ? selected : isMarker ? colours.band : plain);
+  painter.fillRect(option.rect, grid_->IsMarked(index.row() + 1) ? selected : isMarker ? colours.band : plain);
   painter.setPen(colours.line);
   painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
   if (isEditable) painter.drawLine(option.rect.topRight(), option.rect.bottomRight());

@@ -117,7 +117,7 @@ QVariant GridTableModel::headerData(int section, Qt::Orientation orientation, in
   if (!grid_ || orientation != Qt::Horizontal || section >= grid_->Cols()) return {};
   if (role == Qt::DisplayRole) return ToQt(grid_->Cell(0, section));
   if (role == Qt::TextAlignmentRole) return QVariant(AlignmentOf(section));
-  if (role == Qt::AccessibleTextRole) return SpokenHeading(section);
+  if (role == Qt::AccessibleTextRole) return SpokenHeading(section) + SpokenOrder(section);
   return {};
 }
 
@@ -125,6 +125,12 @@ QVariant GridTableModel::headerData(int section, Qt::Orientation orientation, in
 QString GridTableModel::SpokenHeading(int col) const {
   const QString heading = ToQt(grid_->Cell(0, col));
   return heading.isEmpty() ? QString("Marker") : heading;
+}
+
+QString GridTableModel::SpokenOrder(int col) const {
+  const auto& sort = grid_->SortedBy();
+  if (!sort || sort->col != col) return {};
+  return sort->descending ? ", sorted downwards" : ", sorted upwards";
 }
 
 QString GridTableModel::SpokenText(int row, int col) const {

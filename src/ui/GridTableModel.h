@@ -38,6 +38,7 @@ class GridTableModel : public QAbstractTableModel {
   template <class Matches>
   int FindText(Matches matches, int start) const;
   QString SpokenHeading(int col) const;
+  QString SpokenOrder(int col) const;
   QString SpokenText(int row, int col) const;
 
   Grid* grid_;

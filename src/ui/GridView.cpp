@@ -3,22 +3,31 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
 
+#include "core/WholeFile.h"
 #include "forms/Form.h"
+#include "forms/ListText.h"
 #include "ui/Apostrophe.h"
 #include "ui/Convert.h"
+#include "ui/FileDialogs.h"
 #include "ui/GridCellEditor.h"
 #include "ui/GridCellPainter.h"
 #include "ui/GridTableModel.h"
+#include "ui/ListMenu.h"
+#include "ui/Shortcuts.h"
 #include "ui/TypeAhead.h"
+#include "ui/Warning.h"
 #include "ui/WindowMemory.h"
 
 namespace norvane::ui {
@@ -31,6 +40,7 @@ constexpr int kNarrowest = 20;
 constexpr int kNarrowestText = 60;  // texts are cut to no less
 constexpr int kWidestText = 260;    // no column asks for more
 constexpr int kHeadingPadding = 10;
+constexpr int kSortSign = 12;
 
 }  // namespace
 
@@ -40,6 +50,8 @@ GridView::GridView(Grid& grid, QWidget* parent, const WidgetServices& services)
       table_(new GridTableModel(grid)),
       painter_(new GridCellPainter(grid, this)),
       typed_(new TypeAhead(this)),
+      summary_(new QLabel(parent)),
+      convert_(services.convert),
       texts_(services.convert.Settings()),
       memory_(services.memory),
       userWidths_(memory_.ColumnWidths(grid)) {
@@ -51,9 +63,11 @@ GridView::GridView(Grid& grid, QWidget* parent, const WidgetServices& services)
                                [this](int col) { return table_->AlignmentOf(col); });
   grid.view = this;
   binding_ = new Binding(grid, *this, nullptr);
+  binding_->SetBelow(summary_);
   connect(binding_, &QObject::destroyed, this, &GridView::Abandon);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this,
           [this](int section, int, int width) { SectionResized(section, width); });
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) { SortBy(section); });
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
     if (grid_ && !following_) grid_->SetTopRow(value + 1);
   });
@@ -80,6 +94,10 @@ void GridView::SetLook() {
   horizontalHeader()->setTextElideMode(Qt::ElideRight);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionsClickable(false);
+  summary_->setProperty("summary", true);
+  summary_->setTextFormat(Qt::PlainText);
+  summary_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  summary_->hide();
   horizontalHeader()->setFixedHeight(rowHeight + 2);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   grid_->SetRowHeight(ToTwips(rowHeight));
@@ -118,10 +136,13 @@ void GridView::ScheduleSync() {
 void GridView::Sync() {
   waiting_ = false;
   if (!grid_) return;
+  grid_->KeepSorted(convert_);
   {
     const QScopedValueRollback following(following_, true);
     table_->Sync();
   }
+  ShowSummary();
+  ShowSortSign();
   if (std::exchange(allWaiting_, false)) {
     if (!KeepsWidths()) {
       MeasureColumns();
@@ -145,6 +166,7 @@ void GridView::ColumnsChanged() {
 
 void GridView::RowsReset() {
   allWaiting_ = true;
+  sumsWaiting_ = true;
   ScheduleSync();
 }
 
@@ -156,7 +178,9 @@ void GridView::RowsRemoved(int, int) {
   RowsReset();
 }
 
-void GridView::CellChanged(int row, int) {
+void GridView::CellChanged(int row, int col) {
+  sumsWaiting_ = sumsWaiting_ || grid_->ColTotalled(col);
+  if (sumsWaiting_ || grid_->SortedBy()) ScheduleSync();
   if (!waiting_) table_->RefreshRow(row);
 }
 
@@ -214,7 +238,7 @@ void GridView::MeasureColumns() {
     const ColumnContent content = LookAt(*grid_, col, texts_, fontMetrics());
     const bool hasHelper = grid_->Helper(col) != CellHelper::None;
     const int helper = hasHelper ? GridCellPainter::HelperRect(rect()).width() : 0;
-    const int heading = content.heading + kHeadingPadding;
+    const int heading = content.heading + kHeadingPadding + (grid_->Sortable() ? kSortSign : 0);
     const int text = std::max(content.width + 2 * GridCellPainter::kPadding + 1, heading) + helper;
     needs_[at] = {.given = ToPixels(grid_->ColWidth(col)),
                   .whole = std::min(text, kWidestText),
@@ -344,7 +368,7 @@ bool GridView::event(QEvent* event) {
 void GridView::keyPressEvent(QKeyEvent* event) {
   if (!grid_) return;
   Form& form = grid_->Parent();
-  if (UseKeyForTyped(*event) || editor_->BeginByKey(*event)) return event->accept();
+  if (UseListKey(*event) || UseKeyForTyped(*event) || editor_->BeginByKey(*event)) return event->accept();
   GridKeyPress press{};
   if (ToGridKey(*event, press)) {
     if (press.key != Key::Space) typed_->Forget();
@@ -418,6 +442,8 @@ void GridView::mousePressEvent(QMouseEvent* event) {
   const QModelIndex cell = indexAt(event->pos());
   if (!cell.isValid()) return ClickBesideRows();
   const int row = cell.row() + 1;
+  if (event->modifiers() & Qt::ControlModifier) return grid_->UserToggleMark(row);
+  if (event->modifiers() & Qt::ShiftModifier) return grid_->UserMarkTo(row);
   IsOnHelper(event->pos()) ? ClickOnHelper(row, cell.column()) : grid_->UserClick(row, cell.column());
 }
 
@@ -448,6 +474,82 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (IsOnHelper(event->pos())) return ClickOnHelper(cell.row() + 1, cell.column());
   grid_->UserDoubleClick(cell.row() + 1, cell.column());
   editor_->OpenList();
+}
+
+// What every list offers.
+
+bool GridView::UseListKey(const QKeyEvent& event) {
+  const QKeySequence key(event.keyCombination());
+  if (grid_->Editing()) return false;
+  if (key == KeyOf(ListKey::Copy)) {
+    CopyRows();
+    return true;
+  }
+  if (key != KeyOf(ListKey::MarkAll)) return false;
+  grid_->UserMarkAll();
+  return true;
+}
+
+void GridView::CopyRows() {
+  if (!grid_ || grid_->MarkedRows().empty()) return;
+  QApplication::clipboard()->setText(ToQt(TabbedText(*grid_, grid_->MarkedRows())));
+}
+
+void GridView::SaveList() {
+  const QPointer<GridView> self(this);
+  const std::string name = grid_->Parent().Caption();
+  const QString file = AskForFile({FileRequest::Kind::Save, "Save List as CSV", name, "csv"}, window());
+  if (file.isEmpty() || !self || !grid_) return;
+  if (!WriteFileAtomically(ToPath(file), CsvText(*grid_, convert_))) {
+    Warn(window(), QString("The file %1 could not be written.").arg(file));
+  }
+}
+
+void GridView::SortBy(int col) {
+  if (grid_) grid_->UserSort(col, convert_);
+}
+
+void GridView::ShowSortSign() {
+  QHeaderView& header = *horizontalHeader();
+  header.setSectionsClickable(grid_->Sortable());
+  const auto& sort = grid_->SortedBy();
+  header.setSortIndicatorShown(sort.has_value());
+  if (sort) header.setSortIndicator(sort->col, sort->descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void GridView::ShowSummary() {
+  const bool sumsMarks = grid_->MarkedRows().size() > 1;
+  if (!std::exchange(sumsWaiting_, false) && !sumsMarks && !summedMarks_) return;
+  summedMarks_ = sumsMarks;
+  const QString text = ToQt(SummaryText(*grid_, convert_));
+  summary_->setText(text);
+  summary_->setVisible(!text.isEmpty());
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  if (!grid_) return;
+  typed_->Forget();
+  const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+  const QModelIndex cell = byMouse ? indexAt(event->pos()) : QModelIndex();
+  if (byMouse && !cell.isValid()) ClickBesideRows();
+  if (cell.isValid()) grid_->UserContext(cell.row() + 1, cell.column());
+  if (!grid_) return;
+  if (waiting_) Sync();
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  FillListMenu(*menu, *grid_,
+               {.copy = [this] { CopyRows(); },
+                .markAll =
+                    [this] {
+                      if (grid_) grid_->UserMarkAll();
+                    },
+                .save =
+                    [this] {
+                      if (grid_) SaveList();
+                    },
+                .sort = [this](int col) { SortBy(col); }});
+  menu->popup(byMouse ? event->globalPos() : viewport()->mapToGlobal(CurrentCell().bottomLeft()));
 }
 
 }  // namespace norvane::ui

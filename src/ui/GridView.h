@@ -10,6 +10,8 @@
 #include "ui/ColumnWidths.h"
 #include "ui/WidgetFactory.h"
 
+class QLabel;
+
 namespace norvane::ui {
 
 class GridCellEditor;
@@ -36,6 +38,7 @@ class GridView : public QTableView, private GridObserver {
   void mouseMoveEvent(QMouseEvent*) override {}
   void mouseReleaseEvent(QMouseEvent*) override {}
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -74,6 +77,12 @@ class GridView : public QTableView, private GridObserver {
   bool IsOnHelper(const QPoint& at) const;
   void ClickOnHelper(int row, int col);
   void ClickBesideRows();
+  bool UseListKey(const QKeyEvent& event);
+  void CopyRows();
+  void SaveList();
+  void SortBy(int col);
+  void ShowSortSign();
+  void ShowSummary();
 
   Grid* grid_;
   GridTableModel* table_;
@@ -81,6 +90,8 @@ class GridView : public QTableView, private GridObserver {
   TypeAhead* typed_;
   GridCellEditor* editor_;
   Binding* binding_;
+  QLabel* summary_;  ///< below the view; hidden where there is nothing to add up
+  const Conversions& convert_;
   CellTexts texts_;
   WindowMemory& memory_;
   std::map<int, int> userWidths_;   ///< by column, in pixels
@@ -88,6 +99,8 @@ class GridView : public QTableView, private GridObserver {
   bool waiting_ = false;            ///< for Sync
   bool allWaiting_ = true;
   bool columnsWaiting_ = true;
+  bool sumsWaiting_ = true;
+  bool summedMarks_ = false;
   bool hadRows_ = false;  ///< when the columns were measured
   bool arranging_ = false;
   bool following_ = false;

@@ -190,7 +190,12 @@ LayoutBuilder::Piece LayoutBuilder::BuildControl(const Node& node, QWidget& page
     statusBar_ = bar;
     return {};
   }
-  return {&binding->Widget(), nullptr};
+  if (!binding->Below()) return {&binding->Widget(), nullptr};
+  auto* both = new QVBoxLayout;
+  both->setSpacing(2);
+  both->addWidget(&binding->Widget(), 1);
+  both->addWidget(binding->Below());
+  return {nullptr, both};
 }
 
 LayoutBuilder::Piece LayoutBuilder::BuildBox(const Node& node, QWidget& page, Qt::Orientation orientation) {

@@ -1,12 +1,11 @@
 #include "ui/PagePdf.h"
 
-#include <QDir>
-#include <QFileDialog>
 #include <QPdfWriter>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 #include "forms/Desktop.h"
+#include "ui/Convert.h"
+#include "ui/FileDialogs.h"
 #include "ui/PageProgress.h"
 #include "ui/Warning.h"
 
@@ -14,26 +13,6 @@ namespace norvane::ui {
 namespace {
 
 constexpr int kPdfResolution = 1200;
-
-/// The user's documents folder, or the home folder if there is none.
-QString SuggestedFolder() {
-  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return QDir(documents).exists() ? documents : QDir::homePath();
-}
-
-/// The document's title as a file name.
-QString SuggestedName(QString title) {
-  return title.replace('/', '-') + ".pdf";
-}
-
-/// Empty if the user doesn't choose one.
-QString AskForFile(const QString& title, QWidget* parent) {
-  QFileDialog dialog(parent, "Save as PDF", SuggestedFolder(), "PDF (*.pdf)");
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix("pdf");
-  dialog.selectFile(SuggestedName(title));
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
 
 }  // namespace
 
@@ -54,7 +33,7 @@ PdfOutcome WritePdf(const pages::Pages& document, const QString& title, const QS
 }
 
 QString SavePagesAsPdf(const pages::Pages& document, const QString& title, QWidget* parent) {
-  const QString file = AskForFile(title, parent);
+  const QString file = AskForFile({FileRequest::Kind::Save, "Save as PDF", FromQt(title), "pdf"}, parent);
   if (file.isEmpty()) return file;
   const PdfOutcome outcome = [&] {
     PageProgress progress(title, file, document.pages.size(), document.pages.size(), parent);

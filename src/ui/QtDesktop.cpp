@@ -18,6 +18,7 @@
 #include "forms/Form.h"
 #include "ui/AltKeys.h"
 #include "ui/Convert.h"
+#include "ui/FileDialogs.h"
 #include "ui/FileListWidgets.h"
 #include "ui/PreviewWidget.h"
 #include "ui/ProgressWidget.h"
@@ -320,6 +321,11 @@ std::vector<std::filesystem::path> QtDesktop::Drives() const {
     if (volume.isReady() && IsMountedMedium(volume.rootPath())) drives.push_back(ToPath(volume.rootPath()));
   }
   return drives;
+}
+
+std::filesystem::path QtDesktop::AskForFile(const FileRequest& request) {
+  const QScopedValueRollback holding(holdTimers_, false);
+  return ToPath(ui::AskForFile(request, QApplication::activeWindow()));
 }
 
 }  // namespace norvane::ui

@@ -53,6 +53,7 @@ class QtDesktop : public Desktop {
   std::filesystem::path DocumentsFolder() const override;
   std::filesystem::path CurrentFolder() const override;
   std::vector<std::filesystem::path> Drives() const override;
+  std::filesystem::path AskForFile(const FileRequest& request) override;
 
  private:
   void ChooseTheme(Theme theme);

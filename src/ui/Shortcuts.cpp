@@ -24,6 +24,7 @@ const std::vector<Role>& Roles() {
       {"remove", {"Ctrl+Del"}},
       {"refresh", {"F5"}},
       {"go", {"F5"}},
+      {"copy", {"Ctrl+D"}},
   };
   return roles;
 }
@@ -58,6 +59,10 @@ QKeySequence KeyOf(const Form& form, const std::string& icon) {
     if (shortcut.button->Style().icon == icon) return shortcut.key;
   }
   return {};
+}
+
+QKeySequence KeyOf(ListKey key) {
+  return {key == ListKey::Copy ? "Ctrl+C" : "Ctrl+A"};
 }
 
 QString WithKey(const QString& toolTip, const QKeySequence& key) {

@@ -24,6 +24,10 @@ std::vector<Shortcut> ShortcutsOf(const Form& form);
 /// The key of the form's button with this icon, empty if there is none.
 QKeySequence KeyOf(const Form& form, const std::string& icon);
 
+/// The keys of every list.
+enum class ListKey { Copy, MarkAll };
+QKeySequence KeyOf(ListKey key);
+
 /// A tool tip that names the key as well.
 QString WithKey(const QString& toolTip, const QKeySequence& key);
 

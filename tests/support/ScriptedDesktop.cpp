@@ -31,6 +31,7 @@ ScriptedDesktop::ScriptedDesktop() : now(Date::FromYearMonthDay(2026, 11, 22) + 
 
 ScriptedDesktop::~ScriptedDesktop() {
   for (const auto& box : expected_) ADD_FAILURE() << "The box never came: " << box.fragment;
+  for (const auto& file : files_) ADD_FAILURE() << "Nobody asked for the file: " << file.first;
   for (const auto& step : modalSteps_) ADD_FAILURE() << "Never shown modally: " << step.form;
   if (!waitSteps_.empty()) ADD_FAILURE() << waitSteps_.size() << " steps waited for a wait that never came";
   if (!pumpSteps_.empty()) ADD_FAILURE() << pumpSteps_.size() << " steps waited for an event pump that never turned";
@@ -53,6 +54,22 @@ Answer ScriptedDesktop::Ask(const Message& message) {
   EXPECT_TRUE(fits) << "Expected a box with: " << box.fragment << "\nCame: [" << message.title << "] " << message.text;
   EXPECT_TRUE(IsPossible(box.answer, message.buttons)) << "No button gives that answer: " << message.text;
   return box.answer;
+}
+
+void ScriptedDesktop::ExpectFile(std::string_view fragment, std::filesystem::path file) {
+  files_.emplace_back(fragment, std::move(file));
+}
+
+std::filesystem::path ScriptedDesktop::AskForFile(const FileRequest& request) {
+  log.push_back("file: " + request.title);
+  if (files_.empty()) {
+    ADD_FAILURE() << "Nobody expected to be asked for a file: " << request.title;
+    return {};
+  }
+  const auto [fragment, file] = files_.front();
+  files_.pop_front();
+  EXPECT_NE(request.title.find(fragment), std::string::npos) << "Expected: " << fragment << "\nCame: " << request.title;
+  return file;
 }
 
 void ScriptedDesktop::FormShown(Form& form) {

@@ -26,6 +26,8 @@ class ScriptedDesktop : public Desktop {
   /// The next box has `fragment` in its text or its title, and gets this answer. Boxes come in the order of
   /// expectation.
   void Expect(std::string_view fragment, Answer answer = Answer::Ok);
+  /// The next dialog for a file or folder that has `fragment` in its title gets this path; an empty one cancels it.
+  void ExpectFile(std::string_view fragment, std::filesystem::path file);
   /// What is done when the screen is next shown modally; it has to end the wait.
   void WhenModal(std::string_view name, std::function<void(Form&)> step);
   template <class Screen>
@@ -73,6 +75,7 @@ class ScriptedDesktop : public Desktop {
   std::filesystem::path DocumentsFolder() const override { return documentsFolder; }
   std::filesystem::path CurrentFolder() const override { return currentFolder; }
   std::vector<std::filesystem::path> Drives() const override { return drives; }
+  std::filesystem::path AskForFile(const FileRequest& request) override;
 
  private:
   struct ExpectedBox {
@@ -87,6 +90,7 @@ class ScriptedDesktop : public Desktop {
   static void RunNext(Steps& steps);
 
   std::deque<ExpectedBox> expected_;
+  std::deque<std::pair<std::string, std::filesystem::path>> files_;
   std::deque<ModalStep> modalSteps_;
   Steps waitSteps_;
   Steps pumpSteps_;

@@ -104,7 +104,7 @@ void CustInvoices::ClearList() {
                           {"Customer#", 0},
                           {"Last", 0},
                           {"Name", 2000},
-                          {">Charges", 1000},
+                          {">Charges", 1000, ColumnType::Currency, "", true},
                           {"Description", 2000}});
   InvoiceList.SetRows(1);
 }

@@ -106,7 +106,7 @@ void Receipts::SetUpGrid() {
                           {"Type", 1300},
                           {"Card/Check#", 1700},
                           {"Client", 1500, ColumnType::Plain, "..."},
-                          {">Amount", 1000, ColumnType::Currency},
+                          {">Amount", 1000, ColumnType::Currency, "", true},
                           {"Notes", 1400}});
 }
 

@@ -11,6 +11,7 @@
 namespace norvane {
 
 class Client;
+class FindIndex;
 class Inventory;
 class Invoice;
 class Vendor;
@@ -53,6 +54,7 @@ struct Globals {
   Date LedgerSince;
   Date InvoiceSince;
   Date ReceiptDate;
+  Date PeriodBeginning, PeriodEnd;  ///< for the report over a period that opens next; empty for its own
 
   // Row editing; one flag for all row-editing screens.
   bool RowChanged = false;
@@ -71,6 +73,7 @@ struct Globals {
   Object<Vendor> oVendor;
   Object<Inventory> oInventory;
   Object<cSetup> oSetup;
+  Object<FindIndex> oFindIndex;
   Object<Recordset> rsClients;
   Object<Recordset> rsClientPick;
   Object<Recordset> rsInvoices;

@@ -137,6 +137,21 @@ void FoldKey(std::string_view text, std::string& key) {
   for (std::size_t i = 0; i < text.size();) AppendCharacter(key, Lower(NextCharacter(text, i)));
 }
 
+void AppendPlainLetters(std::string_view text, std::string& folded) {
+  constexpr std::uint32_t kOpening = 0x2018;
+  constexpr std::uint32_t kApostrophe = 0x2019;
+  for (std::size_t i = 0; i < text.size();) {
+    const char c = text[i];
+    if (static_cast<unsigned char>(c) < 0x80) {
+      folded += static_cast<unsigned char>(c) < ' ' ? ' ' : ToLower(c);
+      ++i;
+      continue;
+    }
+    const std::uint32_t character = NextCharacter(text, i);
+    AppendPlain(folded, character == kOpening || character == kApostrophe ? '\'' : Lower(character));
+  }
+}
+
 bool MatchesPattern(std::string_view text, std::string_view pattern) {
   const std::u32string characters = LowerCharacters(text);
   const std::u32string wanted = LowerCharacters(pattern);

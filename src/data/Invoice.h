@@ -89,6 +89,8 @@ class Invoice : public DataObject {
   /// The payments after `sinceDate` by date and number, of one client or, for -1, of all: CustNum, Fname, Lname,
   /// FullName, TransNum, Type, CheckNum, Date, Amount, Notes. Leaves `custNum` in the property CustNum.
   Object<Recordset> AllPayments(Date sinceDate, std::int32_t custNum);
+  /// Client and date of a payment: CustNum, Date. No row if there is no such payment.
+  Object<Recordset> rsPayment(std::int32_t transNum);
   /// Saves the payment's properties. PayNum 0 becomes the next free number; it stays 0 if there is none or the new
   /// payment is refused.
   void SavePayment();

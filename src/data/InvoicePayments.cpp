@@ -25,6 +25,11 @@ Object<Recordset> Invoice::AllPayments(Date sinceDate, std::int32_t custNum) {
   });
 }
 
+Object<Recordset> Invoice::rsPayment(std::int32_t transNum) {
+  return List("Invoice.rsPayment -",
+              sql::Statement("select CustNum, [Date] from tb_Receive where TransNum = ", transNum));
+}
+
 void Invoice::SavePayment() {
   Trapped("Invoice.SavePayment -", [&] {
     SaveNumbered(

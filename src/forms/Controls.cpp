@@ -37,6 +37,13 @@ void TextBox::UserType(const std::string& text) {
   if (Parent().IsLoaded()) SetText(OneLine(text));
 }
 
+bool TextBox::UserKey(Key key) {
+  const bool isVertical = key == Key::Up || key == Key::Down || key == Key::PageUp || key == Key::PageDown;
+  if (!isVertical || !KeyDown.HasHandler()) return false;
+  KeyDown.Raise(static_cast<int>(key));
+  return true;
+}
+
 namespace {
 
 constexpr std::string_view kEmptyMask = "__/__/__";

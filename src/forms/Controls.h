@@ -5,6 +5,7 @@
 
 #include "core/Date.h"
 #include "forms/Control.h"
+#include "forms/Keys.h"
 
 namespace norvane {
 
@@ -42,8 +43,11 @@ class TextBox : public Control {
 
   /// The user's typing: the focus comes here first, then the text is what was typed, in one line.
   void UserType(const std::string& text);
+  /// The keys up and down, by row or page, which are of use to a box with a list. False if it has no use for them.
+  bool UserKey(Key key);
 
   Event<> Change{Parent()};
+  Event<int> KeyDown{Parent()};
 
  private:
   std::string text_;

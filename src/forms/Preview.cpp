@@ -64,6 +64,12 @@ void Preview::SetCurrentPage(int page) {
   Notify(Aspect::State);
 }
 
+void Preview::UserFollow(const std::string& target) {
+  const Dispatch dispatch(Parent());
+  SetFocus();
+  if (Parent().IsLoaded()) LinkClick.Raise(target);
+}
+
 void Preview::SetZoom(double percent) {
   zoom_ = std::clamp(percent, kSmallestZoom, kLargestZoom);
   SetChoice(ZoomChoice::Percent);

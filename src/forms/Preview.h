@@ -61,6 +61,9 @@ class Preview : public Control, public pages::DocumentBuilder {
   /// Shows the pages at this scale, kept within the two limits.
   void SetZoom(double percent);
   void SetChoice(ZoomChoice choice);
+  /// The user's click on a place that opens something.
+  void UserFollow(const std::string& target);
+  Event<std::string> LinkClick{Parent()};
   static constexpr double kSmallestZoom = 10.0;
   static constexpr double kLargestZoom = 400.0;
 

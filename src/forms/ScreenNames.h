@@ -15,6 +15,8 @@ inline constexpr char kInvoiceDetail[] = "InvoiceDetail";
 inline constexpr char kPaymentDate[] = "PaymentDate";
 inline constexpr char kReceipts[] = "Receipts";
 
+inline constexpr char kfrmFind[] = "frmFind";
+
 inline constexpr char kBackOrderSet[] = "BackOrderSet";
 inline constexpr char kfrmInventory[] = "frmInventory";
 inline constexpr char kInvSearch[] = "InvSearch";

@@ -37,6 +37,14 @@ struct TextBox {
 
 struct PageBreak {};
 
+/// Rectangles from the page's top left corner. They take no room: what follows is placed as if they weren't there.
+struct FilledBox {
+  Box box;
+};
+struct LinkedBox {
+  Link link;
+};
+
 enum class TableBorder {
   None = 0,
   Totals = 8,  ///< a frame and a line under each row; such a table is kept on one page
@@ -66,7 +74,7 @@ struct Table {
   Alignment alignment = Alignment::Left;  ///< of the whole table between the margins
 };
 
-using Element = std::variant<Paragraph, TextBox, PageBreak, Table>;
+using Element = std::variant<Paragraph, TextBox, PageBreak, FilledBox, LinkedBox, Table>;
 
 struct Document {
   Margins margins;

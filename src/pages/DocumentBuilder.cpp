@@ -7,6 +7,13 @@
 #include "pages/Measure.h"
 
 namespace norvane::pages {
+namespace {
+
+float Points(std::string_view measure) {
+  return static_cast<float>(PointsOf(measure));
+}
+
+}  // namespace
 
 void DocumentBuilder::Clear() {
   document_.reset();
@@ -70,6 +77,17 @@ void DocumentBuilder::WriteTextBox(std::string_view text, std::string_view left,
       TextBox{std::string(text), PointsOf(left), PointsOf(top), PointsOf(width), PointsOf(height), font_, alignment_});
 }
 
+void DocumentBuilder::FillBox(Fill fill, std::string_view left, std::string_view top, std::string_view width,
+                              std::string_view height) {
+  Open().elements.emplace_back(FilledBox{{Points(left), Points(top), Points(width), Points(height), fill}});
+}
+
+void DocumentBuilder::LinkBox(std::string_view target, std::string_view left, std::string_view top,
+                              std::string_view width, std::string_view height) {
+  Open().elements.emplace_back(
+      LinkedBox{{Points(left), Points(top), Points(width), Points(height), std::string(target)}});
+}
+
 void DocumentBuilder::StartTable() {
   Open();
   table_.emplace();
@@ -97,7 +115,7 @@ void DocumentBuilder::SetTableRows(int count) {
 }
 
 void DocumentBuilder::SetTableRowHeight(int row, std::string_view height) {
-  const auto points = static_cast<float>(PointsOf(height));
+  const float points = Points(height);
   if (TableRow* found = Row(row)) found->height = points;
 }
 

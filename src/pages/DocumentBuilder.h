@@ -47,6 +47,12 @@ class DocumentBuilder {
   void WriteTextBox(std::string_view text, std::string_view left, std::string_view top, std::string_view width,
                     std::string_view height);
 
+  /// A filled rectangle from the page's top left corner, below all texts. It takes no room.
+  void FillBox(Fill fill, std::string_view left, std::string_view top, std::string_view width, std::string_view height);
+  /// Makes such a rectangle open `target` where the page is shown.
+  void LinkBox(std::string_view target, std::string_view left, std::string_view top, std::string_view width,
+               std::string_view height);
+
   void StartTable();
   void SetTableBorder(TableBorder border);
   /// Adds the body's rows. Format and heading of the first call count (TableFormat.h); a body may be empty.

@@ -63,6 +63,8 @@ class DocumentLayout {
   }
 
   void Place(const PageBreak&) { flow_.NewPage(); }
+  void Place(const FilledBox& filled) { flow_.Writer().Fill(filled.box); }
+  void Place(const LinkedBox& linked) { flow_.Writer().AddLink(linked.link); }
 
   void Place(const Table& table) {
     PlaceTable(flow_, table, table.isForm && index_ + 1 < document_.elements.size() ? KeptHeight(index_ + 1) : 0);

@@ -17,6 +17,8 @@ class PageWriter {
   /// One line of text whose top edge and left edge are given. An empty one leaves no trace.
   void Write(double left, double top, const Font& font, std::string_view text);
   void Rule(double x1, double y1, double x2, double y2, double width, double grey = 0);
+  void Fill(const Box& box) { pages_.pages.back().boxes.push_back(box); }
+  void AddLink(const Link& link) { pages_.pages.back().links.push_back(link); }
   /// Adds to the rows that have no room on this page.
   void CountSurplusRows(int rows) { pages_.pages.back().surplusRows += rows; }
   Pages TakePages() { return std::move(pages_); }

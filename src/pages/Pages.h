@@ -46,13 +46,38 @@ struct Line {
   float grey = 0;  ///< 0 is black, 1 would be white
 };
 
+/// What a filled box is for; who paints gives each its colour.
+enum class Fill : std::uint8_t { Panel, Track, First, Second, Alert };
+
+/// A filled rectangle, below the texts and lines of its page.
+struct Box {
+  float left = 0, top = 0, width = 0, height = 0;
+  Fill fill = Fill::Panel;
+};
+
+/// A place on the page that opens something where the page is shown. On paper it is nothing.
+struct Link {
+  float left = 0, top = 0, width = 0, height = 0;
+  std::string target;
+
+  bool Contains(double x, double y) const { return x >= left && x < left + width && y >= top && y < top + height; }
+};
+
 struct Page {
   std::vector<TextRun> runs;  ///< in reading order: header, body, footer
   std::vector<Line> lines;
-  std::string text;     ///< of all runs, one after the other
+  std::vector<Box> boxes;   ///< in the order of painting
+  std::vector<Link> links;  ///< the later ones lie above
+  std::string text;         ///< of all runs, one after the other
   int surplusRows = 0;  ///< rows for which the forms on this page have no room
 
   std::string_view TextOf(const TextRun& run) const { return std::string_view(text).substr(run.begin, run.length); }
+  /// The link above a place; null where there is none.
+  const Link* LinkAt(double x, double y) const {
+    const auto found =
+        std::find_if(links.rbegin(), links.rend(), [&](const Link& link) { return link.Contains(x, y); });
+    return found == links.rend() ? nullptr : &*found;
+  }
 };
 
 /// A document laid out, ready to be painted on any device.

@@ -5,6 +5,7 @@
 #include "screens/clients/CustSearch.h"
 #include "screens/clients/Customer.h"
 #include "screens/clients/Profile.h"
+#include "screens/find/frmFind.h"
 #include "screens/registry/GL.h"
 #include "screens/registry/LedgerTypes.h"
 #include "screens/registry/VendorSearch.h"
@@ -46,6 +47,7 @@ void RegisterScreens(Program& program) {
   screens.Add<ShippingTypes>();
   screens.Add<VendorSearch>();
   screens.Add<Vendors>();
+  screens.Add<frmFind>();
   screens.Add<frmInventory>();
   screens.Add<frmSetup>();
   screens.Add<intro>();

@@ -64,9 +64,17 @@ void FormWindow::BuildMenu() {
   if (!form_->MenuBar().empty()) AddViewMenu();
 }
 
-/// The window's own menu, before the last one of a form with several, which is Help.
+/// The window's own menu, before the last one of a form with several, which is Help; or the end of the form's own.
 void FormWindow::AddViewMenu() {
-  auto* menu = new QMenu("&View", this);
+  const auto menus = menuBar()->actions();
+  const auto own =
+      std::find_if(menus.begin(), menus.end(), [](const QAction* menu) { return menu->text() == "&View"; });
+  QMenu* menu = own == menus.end() ? new QMenu("&View", this) : (*own)->menu();
+  if (own == menus.end()) {
+    menuBar()->insertMenu(menus.size() > 1 ? menus.back() : nullptr, menu);
+  } else {
+    menu->addSeparator();
+  }
   auto* group = new QActionGroup(menu);
   for (const auto& [theme, text] : {std::pair(Theme::System, "&System Colors"),
                                     std::pair(Theme::Light, "&Light Colors"), std::pair(Theme::Dark, "&Dark Colors")}) {
@@ -75,8 +83,6 @@ void FormWindow::AddViewMenu() {
     action->setCheckable(true);
     action->setChecked(theme == services_.memory.ChosenTheme());
   }
-  const auto menus = menuBar()->actions();
-  menuBar()->insertMenu(menus.size() > 1 ? menus.back() : nullptr, menu);
 }
 
 QMenu* FormWindow::MakeMenu(MenuEntry& entry) {
@@ -99,6 +105,7 @@ void FormWindow::AddEntry(QMenu& menu, MenuEntry& entry) {
   const QKeySequence key = KeyOf(*form_, entry.Icon());
   const QString keyText = key.isEmpty() ? QString() : "\t" + key.toString(QKeySequence::NativeText);
   auto* action = menu.addAction(NamedIcon(entry.Icon()), ToQt(entry.Caption()) + keyText);
+  action->setShortcut(MenuKeyOf(entry.Icon()));
   entry.observer = [&entry, action](Aspect) {
     action->setEnabled(entry.Enabled());
     action->setVisible(entry.Visible());

@@ -1,6 +1,7 @@
 #include "ui/PageCanvas.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -20,6 +21,7 @@ constexpr double kPixelsPerPoint = 96.0 / pages::kPointsPerInch;
 constexpr double kThumbnail = 0.2;
 constexpr double kSmallest = 0.1;
 constexpr double kZoomStep = 1.15;
+constexpr int kClick = 3;  // pixels that the mouse may move in a click
 
 /// Centres what is smaller than its room.
 double Margin(int room, double all) {
@@ -32,6 +34,7 @@ PageCanvas::PageCanvas(QWidget* parent) : QAbstractScrollArea(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setFrameShape(NoFrame);
   setAccessibleName(tr("Pages"));
+  viewport()->setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   verticalScrollBar()->setSingleStep(40);
   horizontalScrollBar()->setSingleStep(40);
@@ -40,6 +43,7 @@ PageCanvas::PageCanvas(QWidget* parent) : QAbstractScrollArea(parent) {
 void PageCanvas::Show(const pages::Pages* pages) {
   pages_ = pages;
   current_ = 1;
+  target_.clear();
   Arrange();
   GoToPage(1);
 }
@@ -141,6 +145,9 @@ void PageCanvas::paintEvent(QPaintEvent* event) {
     painter.setClipRect(place);
     PaintPage(painter, *pages_, static_cast<std::size_t>(index), place.topLeft(), scale_);
     painter.restore();
+    if (target_.empty() || index != linkedPage_) continue;
+    painter.setPen(QPen(colours.accent, 1.5));
+    painter.drawRect(QRectF(place.topLeft() + linked_.topLeft() * scale_, linked_.size() * scale_));
   }
 }
 
@@ -188,12 +195,34 @@ void PageCanvas::wheelEvent(QWheelEvent* event) {
 }
 
 void PageCanvas::mousePressEvent(QMouseEvent* event) {
-  dragged_ = event->pos();
+  dragged_ = pressed_ = event->pos();
+}
+
+/// A press and release at one place is a click on what lies there.
+void PageCanvas::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || (event->pos() - pressed_).manhattanLength() > kClick) return;
+  Hover(event->position());
+  if (followed && !target_.empty()) followed(std::string(target_));
+}
+
+/// Marks what a click would open.
+void PageCanvas::Hover(QPointF position) {
+  const std::string before = std::exchange(target_, {});
+  for (int index = 0; index < PageCount(); ++index) {
+    const QPointF at = (position - PlaceOf(index).topLeft()) / scale_;
+    const pages::Link* link = pages_->pages[static_cast<std::size_t>(index)].LinkAt(at.x(), at.y());
+    if (!link) continue;
+    target_ = link->target;
+    linked_ = {link->left, link->top, link->width, link->height};
+    linkedPage_ = index;
+  }
+  viewport()->setCursor(target_.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+  if (target_ != before) viewport()->update();
 }
 
 /// Drags the paper along with the mouse.
 void PageCanvas::mouseMoveEvent(QMouseEvent* event) {
-  if (!(event->buttons() & Qt::LeftButton)) return;
+  if (!(event->buttons() & Qt::LeftButton)) return Hover(event->position());
   const QPoint moved = event->pos() - dragged_;
   dragged_ = event->pos();
   horizontalScrollBar()->setValue(horizontalScrollBar()->value() - moved.x());

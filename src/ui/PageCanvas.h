@@ -31,6 +31,9 @@ class PageCanvas : public QAbstractScrollArea {
   std::function<void()> turned;
   std::function<void(double factor)> zoomed;
 
+  /// Called when the user clicks on a place of a page that opens something.
+  std::function<void(const std::string& target)> followed;
+
   QSize sizeHint() const override { return {560, 520}; }
 
  protected:
@@ -40,6 +43,7 @@ class PageCanvas : public QAbstractScrollArea {
   void wheelEvent(QWheelEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
 
  private:
@@ -51,6 +55,7 @@ class PageCanvas : public QAbstractScrollArea {
   /// Where a page is in the viewport now.
   QRectF PlaceOf(int index) const;
   QSizeF PageSize() const;
+  void Hover(QPointF position);
 
   const pages::Pages* pages_ = nullptr;
   ZoomChoice choice_ = ZoomChoice::Percent;
@@ -60,6 +65,10 @@ class PageCanvas : public QAbstractScrollArea {
   int current_ = 1;
   bool going_ = false;  ///< scrolling by code, which turns no page
   QPoint dragged_;
+  QPoint pressed_;
+  std::string target_;  ///< of the link below the mouse, empty for none
+  QRectF linked_;       ///< its place, from the corner of its page, in points
+  int linkedPage_ = 0;
 };
 
 }  // namespace norvane::ui

@@ -13,6 +13,23 @@ namespace {
 
 using pages::Pages;
 
+/// On white paper, in print and on the screen alike. The two series of a chart differ in lightness too.
+QColor ColourOf(pages::Fill fill) {
+  switch (fill) {
+    case pages::Fill::Panel:
+      return {0xF3, 0xF6, 0xF9};
+    case pages::Fill::Track:
+      return {0xE3, 0xE9, 0xEF};
+    case pages::Fill::First:
+      return {0x1F, 0x5F, 0x99};
+    case pages::Fill::Second:
+      return {0x8F, 0xBF, 0xE0};
+    case pages::Fill::Alert:
+      return {0xC2, 0x4A, 0x33};
+  }
+  return Qt::black;
+}
+
 QString TextOf(const pages::Page& page, const pages::TextRun& run) {
   const auto text = page.TextOf(run);
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -23,6 +40,10 @@ QString TextOf(const pages::Page& page, const pages::TextRun& run) {
 void PaintPage(QPainter& painter, const Pages& document, std::size_t page, QPointF corner, double scale) {
   const pages::Page& content = document.pages[page];
   painter.setRenderHint(QPainter::Antialiasing);
+  for (const auto& box : content.boxes) {
+    const QSizeF size(box.width * scale, box.height * scale);
+    painter.fillRect(QRectF(corner + QPointF(box.left, box.top) * scale, size), ColourOf(box.fill));
+  }
   for (const auto& line : content.lines) {
     const int grey = static_cast<int>(line.grey * 255);
     painter.setPen(QPen(QColor(grey, grey, grey), line.width * scale, Qt::SolidLine, Qt::FlatCap));

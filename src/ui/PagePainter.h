@@ -13,8 +13,8 @@ class QPainter;
 
 namespace norvane::ui {
 
-/// Paints one page: text and rules, no paper. `corner` is where the page's top left corner lies, and `scale` how many
-/// units of the painter make a point.
+/// Paints one page: boxes, rules and text, no paper. `corner` is where the page's top left corner lies, and `scale` how
+/// many units of the painter make a point.
 void PaintPage(QPainter& painter, const pages::Pages& document, std::size_t page, QPointF corner, double scale);
 
 /// The paper that pages are made for, to its edges.

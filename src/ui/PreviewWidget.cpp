@@ -62,6 +62,9 @@ PreviewWidget::PreviewWidget(Preview& preview, QWidget* parent)
       if (turned.CurrentPage() != canvas_->CurrentPage()) turned.SetCurrentPage(canvas_->CurrentPage());
     });
   };
+  canvas_->followed = [this](const std::string& target) {
+    Act([&](Preview& followed) { followed.UserFollow(target); });
+  };
   canvas_->zoomed = [this](double factor) {
     Act([&](Preview& zoomed) { zoomed.SetZoom(std::round(canvas_->Percent() * factor)); });
   };

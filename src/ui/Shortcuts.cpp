@@ -29,6 +29,13 @@ const std::vector<Role>& Roles() {
   return roles;
 }
 
+/// What has a key in the menus, though no button.
+struct MenuRole {
+  const char* icon;
+  const char* key;
+};
+constexpr MenuRole kMenuRoles[] = {{"search", "Ctrl+F"}, {"overview", "Ctrl+Shift+O"}};
+
 /// Null if the form has no button with the icon.
 Button* ButtonWith(const Form& form, const std::string& icon) {
   for (Control* control : form.Controls()) {
@@ -63,6 +70,13 @@ QKeySequence KeyOf(const Form& form, const std::string& icon) {
 
 QKeySequence KeyOf(ListKey key) {
   return {key == ListKey::Copy ? "Ctrl+C" : "Ctrl+A"};
+}
+
+QKeySequence MenuKeyOf(const std::string& icon) {
+  for (const MenuRole& role : kMenuRoles) {
+    if (role.icon == icon) return QKeySequence(role.key);
+  }
+  return {};
 }
 
 QString WithKey(const QString& toolTip, const QKeySequence& key) {

@@ -28,6 +28,9 @@ QKeySequence KeyOf(const Form& form, const std::string& icon);
 enum class ListKey { Copy, MarkAll };
 QKeySequence KeyOf(ListKey key);
 
+/// The key of a menu entry with this icon for which there is no button, empty if it has none.
+QKeySequence MenuKeyOf(const std::string& icon);
+
 /// A tool tip that names the key as well.
 QString WithKey(const QString& toolTip, const QKeySequence& key);
 

@@ -49,6 +49,22 @@ bool UseDateKey(const QString& key, MaskedBox& box, QLineEdit& widget, const Clo
   return true;
 }
 
+/// A box above a list leaves it the keys that move by rows.
+bool UseListKey(const QKeyEvent& event, TextBox& box) {
+  switch (event.key()) {
+    case Qt::Key_Up:
+      return box.UserKey(Key::Up);
+    case Qt::Key_Down:
+      return box.UserKey(Key::Down);
+    case Qt::Key_PageUp:
+      return box.UserKey(Key::PageUp);
+    case Qt::Key_PageDown:
+      return box.UserKey(Key::PageDown);
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 Binding* MakeLabel(Label& label, QWidget* parent) {
@@ -74,6 +90,9 @@ Binding* MakeTextBox(TextBox& box, QWidget* parent) {
   });
   QObject::connect(widget, &QLineEdit::textEdited, binding,
                    [&box](const QString& text) { box.UserType(FromQt(text)); });
+  new EventFilter(*widget, [&box, bound = QPointer<Binding>(binding)](QEvent& event) {
+    return bound && event.type() == QEvent::KeyPress && UseListKey(static_cast<QKeyEvent&>(event), box);
+  });
   return binding;
 }
 

@@ -31,6 +31,11 @@ void AppendLine(std::string& out, const Line& line) {
          Inches(line.y2), static_cast<double>(line.width), line.grey > 0 ? " grey" : "");
 }
 
+void AppendBox(std::string& out, const Box& box) {
+  Append(out, "box %.2fin %.2fin %.2fin %.2fin fill %d\n", Inches(box.left), Inches(box.top), Inches(box.width),
+         Inches(box.height), static_cast<int>(box.fill));
+}
+
 }  // namespace
 
 std::string PagesText(const Pages& pages, const FontMetrics& metrics) {
@@ -40,6 +45,7 @@ std::string PagesText(const Pages& pages, const FontMetrics& metrics) {
     Append(out, "page %zu/%zu\n", i + 1, pages.pages.size());
     for (const TextRun& run : page.runs) AppendRun(out, page, run, pages.FontOf(run), metrics);
     for (const Line& line : page.lines) AppendLine(out, line);
+    for (const Box& box : page.boxes) AppendBox(out, box);
   }
   return out;
 }

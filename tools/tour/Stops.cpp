@@ -26,6 +26,7 @@ const std::vector<Stop>& Stops() {
       {"clients-typed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "be"}}},
       {"clients-missed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "zq"}}},
       {"question", "Customer", {kClient, {Choose, "Customer", "mnuDelete"}}, Stop::Shot::Box},
+      {"find", "frmFind", {{Choose, "Customer", "mnuFind"}, {Type, "frmFind", "txtFind", 1, 1, "oak"}}},
       {"help", "Customer", {{Choose, "Customer", "mnuContents"}}, Stop::Shot::Help},
       {"empty", "Customer", {}, Stop::Shot::Screen, true},
       {"splash", "intro", {{Show, "intro"}}},

@@ -64,6 +64,7 @@ void Customer::WireMenu() {
   mnuDelete.Click = [this] { mnuDelete_Click(); };
   WireTo(mnuNewInvoice, screen::kInvoiceDetail, [this] { btnNewInvoice_Click(); });
   WireTo(mnuVendors, screen::kVendors);
+  WireTo(mnuFind, screen::kfrmFind, [this] { screens.Show(screen::kfrmFind, {.owner = this}); });
 
   WireTo(mnuInvoices, screen::kCustInvoices, [this] {
     if (HasClients()) CustList2_DblClick();

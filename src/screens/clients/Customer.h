@@ -48,6 +48,7 @@ class Customer : public Form {
   MenuEntry mnuDelete{mnuEdit, "mnuDelete", "&Delete Client", "delete"};
   MenuEntry mnuNewInvoice{mnuEdit, "mnuNewInvoice", "New &Invoice", "invoice-new"};
   MenuEntry mnuVendors{mnuEdit, "mnuVendors", "&Vendors", "vendors"};
+  MenuEntry mnuFind{mnuEdit, "mnuFind", "&Find Anything...", "search"};
   MenuEntry mnuTables{*this, "mnuTables", "&Tables"};
   MenuEntry mnuInvoices{mnuTables, "mnuInvoices", "Client &Invoices", "invoices"};
   MenuEntry mnuReceive{mnuTables, "mnuReceive", "Client &Receipts", "receipts"};

@@ -6,6 +6,7 @@
 #include "core/Val.h"
 #include "data/Vendor.h"
 #include "screens/KeyedList.h"
+#include "screens/RowOf.h"
 #include "screens/sales/PaymentDate.h"
 #include "store/Recordset.h"
 
@@ -99,6 +100,14 @@ void GL::SetUpGrid() {
                           {">Balance", 1000},
                           {"Notes", 1000}});
   PaymentList.SetColEditable(kBalance, false);
+}
+
+bool GL::MarkEntry(std::int32_t number) {
+  const int row = RowOf(PaymentList, kTransNum, convert.ToText(number));
+  if (row == 0) return false;
+  PaymentList.SetRow(row);
+  PaymentList_Click();
+  return true;
 }
 
 void GL::OfferCategories() {

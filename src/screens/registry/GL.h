@@ -57,6 +57,8 @@ class GL : public Form {
   /// Reads the whole ledger again and lists it, after carrying out a pending deletion. What waits to be stored is given
   /// up.
   void SetPayments();
+  /// Marks an entry's row as a click does. False if the registry doesn't list it.
+  bool MarkEntry(std::int32_t number);
   /// Gives the category column the expense types in memory. Raises 3021 if there are none.
   void OfferCategories();
   /// Gives the vendor column the vendors in memory. Raises 3021 if there are none.

@@ -1,5 +1,7 @@
 #include "screens/registry/Vendors.h"
 
+#include <algorithm>
+
 #include "core/Val.h"
 #include "data/Vendor.h"
 #include "screens/registry/GL.h"
@@ -118,6 +120,13 @@ void Vendors::cmbVendors_Click() {
     GetVendorDetails(company);
   }
   VendorChanged = false;
+}
+
+bool Vendors::PickVendor(const std::string& company) {
+  const auto& items = cmbVendors.Items();
+  const auto found = std::find(items.begin(), items.end(), company);
+  if (found != items.end()) cmbVendors.UserPick(static_cast<int>(found - items.begin()));
+  return found != items.end();
 }
 
 void Vendors::btnNewVendor_Click() {

@@ -35,6 +35,9 @@ class Vendors : public Form {
   TextBox txtDiscount{*this, "txtDiscount", {.characters = 8, .rightAligned = true}};
   TextBox txtNotes{*this, "txtNotes", {.characters = 40}};
 
+  /// Shows a vendor as a pick from the list does. False if the list doesn't have it.
+  bool PickVendor(const std::string& company);
+
  private:
   void Form_Load() override;
   void MakeVendorList();

@@ -143,6 +143,19 @@ std::string Receipts::CellsOf(const Recordset& payment) const {
                   convert.CurrencyText(payment.Field("amount")), payment.Text("Notes")});
 }
 
+bool Receipts::MarkPayment(std::int32_t number, Date date) {
+  if (date <= SinceDate) {
+    SetDates(DTPicker1, txtSinceDate, date - 1);
+    SinceDate = date - 1;
+    SetPayments();
+  }
+  const int row = RowOf(PaymentList, kTransNum, convert.ToText(number));
+  if (row == 0) return false;
+  PaymentList.SetRow(row);
+  PaymentList_Click();
+  return true;
+}
+
 // Which payments.
 
 bool Receipts::ShowsAllClients() const {

@@ -33,6 +33,8 @@ class Receipts : public Form, public ClientScreen {
   bool Shows(std::int32_t custNum) const override;
   /// The picker has found the client of a row: the cursor goes to the row, and the row waits to be stored.
   void TakeClient(int row, const ClientShown& client);
+  /// Marks a payment's row as a click does, after listing from its day on if need be. False if it isn't listed.
+  bool MarkPayment(std::int32_t number, Date date);
 
  private:
   void Form_Load() override;

@@ -5,6 +5,7 @@
 #include "core/Val.h"
 #include "data/Inventory.h"
 #include "data/SharedLists.h"
+#include "screens/RowOf.h"
 #include "screens/stock/CategoryItem.h"
 #include "screens/stock/InventoryCats.h"
 #include "store/Recordset.h"
@@ -127,6 +128,17 @@ void frmInventory::cmbCategory_Click() {
     rows_.NewRow = InventoryList.Row();
     rows_.SetOldRowStatus();
   });
+}
+
+bool frmInventory::MarkItem(std::int32_t category, std::int32_t number) {
+  for (const std::string& item : cmbCategory.Items()) {
+    if (ValLong(std::string_view(item).substr(0, 4)) == category && catShown_ != category) cmbCategory.SetText(item);
+  }
+  const int row = RowOf(InventoryList, kItemNum, convert.ToText(number));
+  if (row == 0) return false;
+  InventoryList.SetRow(row);
+  InventoryList_Click();
+  return true;
 }
 
 // Editing.

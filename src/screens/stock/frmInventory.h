@@ -25,6 +25,9 @@ class frmInventory : public Form {
   Button btnCategories{*this, "btnCategories", {.caption = "&Categories", .toolTip = "Inventory Categories"}};
   Button Command2{*this, "Command2", {.toolTip = "Exit Inventory", .icon = "exit"}};
 
+  /// Marks an item's row as a click does, in its category. False if it isn't listed there.
+  bool MarkItem(std::int32_t category, std::int32_t number);
+
  private:
   void Form_Load() override;
   void SetForm();

@@ -17,6 +17,7 @@
 #include "store/internal/Journal.h"
 #include "store/internal/Sqlite.h"
 #include "store/internal/StoreError.h"
+#include "store/internal/Workshop.h"
 
 namespace norvane {
 
@@ -27,106 +28,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr mode_t kOwnerAlone = 0600;
-constexpr int kStepsBetweenReports = 10'000;
-
-/// What repair and compaction raise for what SQLite refused last.
-RuntimeError MaintenanceError(sqlite3* database, const std::string& file) {
-  switch (sqlite3_errcode(database)) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-      return error::CouldNotUse(file);
-    case SQLITE_NOTADB:
-    case SQLITE_CORRUPT:
-    case SQLITE_CONSTRAINT:  // two rows under one key
-      return error::UnrecognizedDatabase(file);
-    default:
-      return LastError(database, file);
-  }
-}
-
-/// A full disk has a number of its own here.
-void WatchingForSpace(const std::function<void()>& work) {
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    if (error.Number() == static_cast<std::int32_t>(ErrorNumber::DiskFull)) throw error::NotEnoughSpace();
-    throw;
-  }
-}
-
-/// An open database file under repair or compaction.
-class Workshop {
- public:
-  Workshop(const fs::path& file, std::chrono::milliseconds patience, const Progress& progress = {})
-      : name_(file.string()), progress_(progress) {
-    if (!FileExists(file)) throw error::CouldNotFind(name_);
-    if (FileSystemSize(file) == 0) throw error::UnrecognizedDatabase(name_);
-    sqlite3* opened = nullptr;
-    const int code = sqlite3_open_v2(fs::absolute(file).c_str(), &opened, kFlags, nullptr);
-    database_.reset(opened);
-    if (code != SQLITE_OK) throw MaintenanceError(opened, name_);
-    sqlite3_busy_timeout(opened, static_cast<int>(patience.count()));
-    size_ = static_cast<double>(FileSystemSize(file));
-    if (progress_) sqlite3_progress_handler(opened, kStepsBetweenReports, &Workshop::Report, this);
-  }
-  Workshop(const Workshop&) = delete;
-  Workshop& operator=(const Workshop&) = delete;
-
-  void Run(const std::string& sql) {
-    if (sqlite3_exec(database_.get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-      throw MaintenanceError(database_.get(), name_);
-    }
-  }
-
-  /// The first cell of what a query gives.
-  std::string Cell(const std::string& sql) {
-    sqlite3_stmt* prepared = nullptr;
-    const int code = sqlite3_prepare_v2(database_.get(), sql.c_str(), -1, &prepared, nullptr);
-    const StatementHandle statement(prepared);
-    if (code != SQLITE_OK) throw MaintenanceError(database_.get(), name_);
-    const int stepped = sqlite3_step(prepared);
-    if (stepped == SQLITE_DONE) return "";
-    if (stepped != SQLITE_ROW) throw MaintenanceError(database_.get(), name_);
-    return std::string(ColumnText(prepared, 0));
-  }
-
- private:
-  static constexpr int kFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
-
-  static std::uintmax_t FileSystemSize(const fs::path& file) {
-    std::error_code failed;
-    const std::uintmax_t size = fs::file_size(file, failed);
-    return failed ? 0 : size;
-  }
-
-  /// All work here reads the file from one end to the other, so what was read is what is done.
-  static int Report(void* context) {
-    const auto& self = *static_cast<Workshop*>(context);
-    int pages = 0;
-    int ignored = 0;
-    sqlite3_db_status(self.database_.get(), SQLITE_DBSTATUS_CACHE_MISS, &pages, &ignored, 0);
-    self.progress_(std::min(1.0, pages * kPageSize / self.size_));
-    return 0;
-  }
-  static constexpr double kPageSize = 4096;
-
-  std::string name_;
-  Progress progress_;
-  double size_ = 1;
-  DatabaseHandle database_;
-};
-
-/// Whether the file passes the check and holds tables of this system.
-bool IsSound(Workshop& shop) {
-  return shop.Cell("PRAGMA integrity_check(1)") == "ok" &&
-         shop.Cell("SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name LIKE 'tb\\_%' ESCAPE '\\'") != "0";
-}
-
-std::unique_ptr<SoleUse> HoldAlone(Engine& engine, const fs::path& file, const RuntimeError& inUse) {
-  auto use = engine.HoldAlone(file);
-  if (!use) throw inUse;
-  return use;
-}
 
 std::string Literal(const fs::path& file) {
   std::string text = "'";
@@ -142,7 +43,7 @@ void WriteCompacted(Workshop& source, const fs::path& target) {
   source.Run("VACUUM INTO " + Literal(compacted.Unfinished()));
   {
     Workshop copy(compacted.Unfinished(), {});
-    if (!IsSound(copy)) throw error::UnrecognizedDatabase(target.string());
+    if (!copy.IsSound()) throw error::UnrecognizedDatabase(target.string());
   }
   PutInPlace(compacted);
 }
@@ -183,9 +84,9 @@ void RepairDatabase(Engine& engine, const fs::path& file, const Progress& progre
   Workshop shop(located, engine.Internals().patience, progress);
   WatchingForSpace([&] {
     shop.Run("BEGIN EXCLUSIVE");
-    if (!IsSound(shop)) {
+    if (!shop.IsSound()) {
       shop.Run("REINDEX");
-      if (!IsSound(shop)) throw error::UnrecognizedDatabase(file.string());
+      if (!shop.IsSound()) throw error::UnrecognizedDatabase(file.string());
     }
     shop.Run("COMMIT");
   });

@@ -34,6 +34,7 @@ class Catalog {
   static Catalog Read(sqlite3* database, const std::string& file);
   /// Nothing if there is no such table; in any case of letters.
   const TableSchema* Find(std::string_view table) const;
+  const std::vector<TableSchema>& Tables() const { return tables_; }
 
  private:
   std::vector<TableSchema> tables_;

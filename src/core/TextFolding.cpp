@@ -137,7 +137,9 @@ void FoldKey(std::string_view text, std::string& key) {
   for (std::size_t i = 0; i < text.size();) AppendCharacter(key, Lower(NextCharacter(text, i)));
 }
 
-void AppendPlainLetters(std::string_view text, std::string& folded) {
+std::string PlainLetters(std::string_view text) {
+  std::string folded;
+  folded.reserve(text.size());
   constexpr std::uint32_t kOpening = 0x2018;
   constexpr std::uint32_t kApostrophe = 0x2019;
   for (std::size_t i = 0; i < text.size();) {
@@ -150,6 +152,7 @@ void AppendPlainLetters(std::string_view text, std::string& folded) {
     const std::uint32_t character = NextCharacter(text, i);
     AppendPlain(folded, character == kOpening || character == kApostrophe ? '\'' : Lower(character));
   }
+  return folded;
 }
 
 bool MatchesPattern(std::string_view text, std::string_view pattern) {

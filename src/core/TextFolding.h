@@ -12,9 +12,9 @@ bool IsAscii(std::string_view text);
 /// a difference only where all letters are equal.
 void FoldKey(std::string_view text, std::string& key);
 
-/// Appends the small plain letters of a text, without any accents, each typographic apostrophe as the typewriter's and
+/// A text as it is searched: small letters without any accents, each typographic apostrophe as the typewriter's and
 /// each control character as a space.
-void AppendPlainLetters(std::string_view text, std::string& folded);
+std::string PlainLetters(std::string_view text);
 
 /// The store's `like`: % for any text, _ for one character, without regard to case.
 bool MatchesPattern(std::string_view text, std::string_view pattern);

@@ -7,9 +7,9 @@
 
 #include "core/Characters.h"
 #include "core/Conversions.h"
+#include "core/TextFolding.h"
 #include "core/Utf8.h"
 #include "data/FindAmount.h"
-#include "store/PlainLetters.h"
 
 namespace norvane {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/Characters.h"
-#include "store/PlainLetters.h"
+#include "core/TextFolding.h"
 
 namespace norvane {
 

@@ -250,4 +250,4 @@ INSERT INTO tb_ExpenseTypes (Type) VALUES
 
 INSERT INTO tb_Shipping (Service, "Option", Charge) VALUES
   ('Ground', 'Up to 5 lb', 80000), ('Ground', 'Up to 20 lb', 150000), ('Overnight', 'Up to 5 lb', 350000),
-  ('Pick up', 'Any', 0);
+  ('Pick up', 'At counter', 0);

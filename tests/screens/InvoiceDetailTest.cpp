@@ -36,7 +36,7 @@ TEST_F(InvoiceDetailTest, ReadsCurrencyTextBackAsNothing) {
   EXPECT_EQ(sheet.lblCustomer.Caption(), "Moss, Ada");
   EXPECT_EQ(Fields(),
             "1001|2/10/2026|Order 1001|Grace|Net 30|2/17/2026|$7.00|T1|12.5|$2.00|$1.50|Ground Up to 5 lb|$28.00");
-  EXPECT_THAT(sheet.cmbShipType.Items(), Contains("Pick up Any"));
+  EXPECT_THAT(sheet.cmbShipType.Items(), Contains("Pick up At counter"));
   sheet.btnExit.Press();
   EXPECT_FALSE(IsOpen("InvoiceDetail")) << "without changes there is no question";
 
@@ -52,7 +52,7 @@ TEST_F(InvoiceDetailTest, StartsANewInvoiceFromWhatTheLastOneHeld) {
   AddInvoice(1500);
   database.Execute(
       "UPDATE tb_Client SET Discount = 5 WHERE CustNum = 1003;"
-      "UPDATE tb_Invoice SET SalesRep = 'Grace', Terms = 'Net 30', Tax = 15000, ShippingType = 'Pick up Any'");
+      "UPDATE tb_Invoice SET SalesRep = 'Grace', Terms = 'Net 30', Tax = 15000, ShippingType = 'Pick up At counter'");
   Start();
   Select(2);
   Main().btnNewInvoice.Press();
@@ -70,7 +70,7 @@ TEST_F(InvoiceDetailTest, StartsANewInvoiceFromWhatTheLastOneHeld) {
   Main().btnNewInvoice.Press();
   EXPECT_EQ(Sheet().lblInvoiceNum.Caption() + "|" + Sheet().txtSalesRep.Text() + "|" + Sheet().txtTerms.Text() + "|" +
                 Sheet().txtTax.Text() + "|" + Sheet().cmbShipType.Text() + "|" + Sheet().txtDescription.Text(),
-            "1501|Grace|Net 30|$1.50|Pick up Any|");
+            "1501|Grace|Net 30|$1.50|Pick up At counter|");
   EXPECT_EQ(Sheet().lblTotal.Caption(), "") << "no total until a line is left";
 
   // Reading the sales list recreates the shared invoice.

@@ -88,6 +88,16 @@ const Flaw kFlaws[] = {
     {"UnknownPaymentType",
      "SELECT Type FROM tb_Receive WHERE Type NOT IN tb_PaymentTypes UNION "
      "SELECT PaymentType1 FROM tb_Client WHERE PaymentType1 <> '' AND PaymentType1 NOT IN tb_PaymentTypes"},
+    {"SharedTelephone",
+     "SELECT phone FROM (SELECT HomePhone AS phone FROM tb_Client UNION ALL SELECT CelPhone FROM tb_Client UNION ALL "
+     "SELECT WorkPhone FROM tb_Client UNION ALL SELECT Phone FROM tb_Vendor) WHERE phone <> '' GROUP BY phone "
+     "HAVING count(*) > 1"},
+    {"NoAreaCode",
+     "SELECT HomePhone FROM tb_Client WHERE HomePhone NOT GLOB '[2-9][0-9][0-9]-555-01[0-9][0-9]' AND "
+     "HomePhone <> ''"},
+    {"MailThatMayBeSomeones",
+     "SELECT Email FROM tb_Client WHERE Email NOT LIKE '%_@_%.example' UNION "
+     "SELECT Email FROM tb_Vendor WHERE Email NOT LIKE '%_@_%.example'"},
     {"UnknownShipping",
      "SELECT ShippingType FROM tb_Invoice WHERE ShippingType NOT IN (SELECT Service || ' ' || \"Option\" FROM "
      "tb_Shipping)"},

@@ -36,26 +36,29 @@ class Draft {
 
 void Fill(Database& database, const Order& order) {
   Random random(order.seed);
+  Phones phones(random);
   WriteSettings(database);
-  const std::vector<Client> clients = WriteClients(database, random, order);
+  const std::vector<Client> clients = WriteClients(database, random, phones, order);
   const std::vector<Invoice> invoices = WriteSales(database, random, order, clients);
   const std::vector<Payment> payments = WritePayments(database, random, order, clients, invoices);
-  WriteLedger(database, random, order, invoices, payments);
+  WriteLedger(database, random, phones, order, invoices, payments);
 }
 
 }  // namespace
 
 void WriteSettings(Database& database) {
-  database.Run("DELETE FROM tb_Company; DELETE FROM tb_InvCategories");
+  database.Run("DELETE FROM tb_Company; DELETE FROM tb_InvCategories; DELETE FROM tb_Shipping");
   Inserter company(database, "tb_Company", "Name,Address1,Address2,City,State,ZipCode,Phone,Fax,WebSite,Statetaxrate");
   const Town& home = Towns().front();
-  company.Add({"Alder Street Cycles", "1200 Alder Street", "", home.city, home.state, home.zipCode, "555-0100",
-               "555-0101", "www.example.com", kTaxPercent});
+  company.Add({"Alder Street Cycles", "1200 Alder Street", "", home.city, home.state, home.zipCode, "253-555-0100",
+               "253-555-0101", "www." + DomainOf("Alder Street Cycles"), kTaxPercent});
   Inserter categories(database, "tb_InvCategories", "CatNum,Description");
   std::int64_t number = 0;
   for (const char* name : Categories()) categories.Add({++number, name});
   Inserter types(database, "tb_ExpenseTypes", "Type");
   types.Add({"Payroll"});
+  Inserter shipping(database, "tb_Shipping", "Service,Option,Charge");
+  for (const Shipping& way : Shippings()) shipping.Add({way.service, way.option, way.charge});
 }
 
 void WriteSample(const fs::path& delivered, const fs::path& target, const Order& order) {

@@ -51,10 +51,15 @@ constexpr const char* kSalesReps[] = {"Dana", "Luis", "Morgan", "Tess"};
 constexpr const char* kCategories[] = {"Bicycles",    "Wheels and Tires",     "Drivetrain and Brakes",
                                        "Accessories", "Clothing and Helmets", "Workshop Services"};
 
-constexpr Town kTowns[] = {{"Tacoma", "WA", "98405"},   {"Tacoma", "WA", "98407"},     {"Lakewood", "WA", "98499"},
-                           {"Puyallup", "WA", "98371"}, {"Gig Harbor", "WA", "98335"}, {"Olympia", "WA", "98501"},
-                           {"Seattle", "WA", "98104"},  {"Auburn", "WA", "98002"},     {"Bremerton", "WA", "98337"},
-                           {"Portland", "OR", "97205"}, {"Boise", "ID", "83702"}};
+constexpr Town kTowns[] = {
+    {"Tacoma", "WA", "98405", "253"},   {"Tacoma", "WA", "98407", "253"},     {"Lakewood", "WA", "98499", "253"},
+    {"Puyallup", "WA", "98371", "253"}, {"Gig Harbor", "WA", "98335", "253"}, {"Olympia", "WA", "98501", "360"},
+    {"Seattle", "WA", "98104", "206"},  {"Auburn", "WA", "98002", "253"},     {"Bremerton", "WA", "98337", "360"},
+    {"Portland", "OR", "97205", "503"}, {"Boise", "ID", "83702", "208"}};
+
+constexpr Shipping kShippings[] = {{"Counter", "Pick up", 0},           {"Shop van", "Up to 50 lb", 120'000},
+                                   {"Parcel", "Up to 5 lb", 85'000},    {"Parcel", "Up to 20 lb", 150'000},
+                                   {"Freight", "Bicycle box", 650'000}, {"Overnight", "Up to 5 lb", 350'000}};
 
 constexpr Article kArticles[] = {{1, "City bicycle, 3 speed", 5490, 4, "5 years"},
                                  {1, "City bicycle, 8 speed", 7290, 4, "5 years"},
@@ -78,13 +83,13 @@ constexpr Article kArticles[] = {{1, "City bicycle, 3 speed", 5490, 4, "5 years"
                                  {2, "Inner tube, 700 x 25-32", 80, 60, "90 days"},
                                  {2, "Inner tube, 27.5 inch", 85, 40, "90 days"},
                                  {2, "Inner tube, 20 inch", 70, 30, "90 days"},
-                                 {2, "Tubeless sealant, 8 oz", 145, 12, "0"},
-                                 {2, "Rim tape, pair", 65, 15, "0"},
+                                 {2, "Tubeless sealant, 8 oz", 145, 12, "30 days"},
+                                 {2, "Rim tape, pair", 65, 15, "30 days"},
                                  {2, "Front wheel, 700c", 890, 5, "1 year"},
                                  {2, "Rear wheel, 700c", 1190, 5, "1 year"},
                                  {2, "Dynamo front wheel, 700c", 1890, 3, "2 years"},
-                                 {2, "Spoke, stainless", 12, 200, "0"},
-                                 {2, "Valve caps, set of 4", 35, 20, "0"},
+                                 {2, "Spoke, stainless", 12, 200, "30 days"},
+                                 {2, "Valve caps, set of 4", 35, 20, "30 days"},
                                  {3, "Chain, 8 speed", 190, 20, "90 days"},
                                  {3, "Chain, 11 speed", 345, 16, "90 days"},
                                  {3, "Cassette, 8 speed, 11-32", 320, 8, "1 year"},
@@ -93,12 +98,12 @@ constexpr Article kArticles[] = {{1, "City bicycle, 3 speed", 5490, 4, "5 years"
                                  {3, "Bottom bracket, threaded", 360, 6, "1 year"},
                                  {3, "Pedals, platform, pair", 295, 10, "1 year"},
                                  {3, "Pedals, clipless, pair", 790, 6, "2 years"},
-                                 {3, "Brake pads, rim, pair", 110, 40, "0"},
-                                 {3, "Brake pads, disc, pair", 185, 40, "0"},
+                                 {3, "Brake pads, rim, pair", 110, 40, "30 days"},
+                                 {3, "Brake pads, disc, pair", 185, 40, "30 days"},
                                  {3, "Disc rotor, 160 mm", 270, 10, "1 year"},
-                                 {3, "Brake cable, stainless", 60, 40, "0"},
-                                 {3, "Shift cable, stainless", 60, 40, "0"},
-                                 {3, "Cable housing, per foot", 15, 150, "0"},
+                                 {3, "Brake cable, stainless", 60, 40, "30 days"},
+                                 {3, "Shift cable, stainless", 60, 40, "30 days"},
+                                 {3, "Cable housing, per foot", 15, 150, "30 days"},
                                  {3, "Rear derailleur, 8 speed", 490, 5, "1 year"},
                                  {3, "Shift lever, 8 speed", 340, 5, "1 year"},
                                  {4, "Front light, USB", 395, 12, "1 year"},
@@ -109,27 +114,27 @@ constexpr Article kArticles[] = {{1, "City bicycle, 3 speed", 5490, 4, "5 years"
                                  {4, "Floor pump", 440, 8, "2 years"},
                                  {4, "Mini pump", 265, 10, "1 year"},
                                  {4, "Multi-tool, 16 functions", 290, 12, "Lifetime"},
-                                 {4, "Patch kit", 45, 40, "0"},
-                                 {4, "Tire levers, pair", 40, 30, "0"},
-                                 {4, "Chain lubricant, 4 oz", 95, 30, "0"},
-                                 {4, "Degreaser, 12 oz", 110, 15, "0"},
+                                 {4, "Patch kit", 45, 40, "30 days"},
+                                 {4, "Tire levers, pair", 40, 30, "30 days"},
+                                 {4, "Chain lubricant, 4 oz", 95, 30, "30 days"},
+                                 {4, "Degreaser, 12 oz", 110, 15, "30 days"},
                                  {4, "Bottle cage", 120, 20, "1 year"},
-                                 {4, "Water bottle, 24 oz", 95, 30, "0"},
+                                 {4, "Water bottle, 24 oz", 95, 30, "30 days"},
                                  {4, "Fenders, pair", 480, 8, "1 year"},
                                  {4, "Rear rack", 420, 8, "2 years"},
                                  {4, "Panniers, waterproof, pair", 1390, 5, "5 years"},
                                  {4, "Saddle bag", 245, 10, "1 year"},
                                  {4, "Child seat", 1490, 3, "2 years"},
                                  {4, "Saddle, gel", 455, 6, "1 year"},
-                                 {4, "Grips, pair", 165, 12, "0"},
-                                 {5, "Helmet, adult", 690, 12, "0"},
-                                 {5, "Helmet, kids", 395, 10, "0"},
-                                 {5, "Gloves, full finger", 290, 10, "0"},
+                                 {4, "Grips, pair", 165, 12, "30 days"},
+                                 {5, "Helmet, adult", 690, 12, "30 days"},
+                                 {5, "Helmet, kids", 395, 10, "30 days"},
+                                 {5, "Gloves, full finger", 290, 10, "30 days"},
                                  {5, "Rain jacket", 990, 6, "1 year"},
-                                 {5, "Jersey, short sleeve", 640, 8, "0"},
-                                 {5, "Padded shorts", 590, 8, "0"},
-                                 {5, "Reflective vest", 185, 12, "0"},
-                                 {5, "Wool socks", 140, 20, "0"},
+                                 {5, "Jersey, short sleeve", 640, 8, "30 days"},
+                                 {5, "Padded shorts", 590, 8, "30 days"},
+                                 {5, "Reflective vest", 185, 12, "30 days"},
+                                 {5, "Wool socks", 140, 20, "30 days"},
                                  {6, "Tune-up, standard", 850, 0, "30 days"},
                                  {6, "Tune-up, complete overhaul", 2250, 0, "90 days"},
                                  {6, "Wheel truing", 300, 0, "30 days"},
@@ -187,6 +192,9 @@ std::span<const char* const> SalesReps() {
 }
 std::span<const char* const> Categories() {
   return kCategories;
+}
+std::span<const Shipping> Shippings() {
+  return kShippings;
 }
 std::span<const Town> Towns() {
   return kTowns;

@@ -1,19 +1,12 @@
 #include <algorithm>
 
+#include "sample/Occasions.h"
 #include "sample/Sample.h"
 #include "sample/Stock.h"
 #include "sample/Words.h"
 
 namespace norvane::sample {
 namespace {
-
-struct Shipping {
-  const char* type;  // service and option of a delivered shipping type
-  Money charge;
-};
-constexpr Shipping kShipped[] = {
-    {"Ground Up to 5 lb", 8 * kDollar}, {"Ground Up to 20 lb", 15 * kDollar}, {"Overnight Up to 5 lb", 35 * kDollar}};
-constexpr const char* kPickUp = "Pick up Any";
 
 constexpr int kBicycles = 1;
 constexpr int kWorkshop = 6;
@@ -70,12 +63,6 @@ int LineCount(Random& random, int linesLeft, int invoicesLeft) {
   return std::clamp(count, 1, std::max(1, linesLeft - (invoicesLeft - 1)));
 }
 
-/// "Rear light and 3 more"
-std::string Describe(const Stock::Item& item, int lines) {
-  const std::string brief = item.name.substr(0, item.name.find(','));
-  return lines == 1 ? item.name : brief + " and " + std::to_string(lines - 1) + " more";
-}
-
 /// A half cent goes up, as in the tax box of the invoice screen.
 Money Tax(Money taxed) {
   const auto perMille = static_cast<Money>(kTaxPercent * 10);
@@ -100,13 +87,13 @@ class SalesWriter {
   void Write(Invoice& invoice, const Client& client, int number, int lineCount) {
     stock_.Advance(invoice.day);
     Money sum = 0;
-    std::string description;
+    const Stock::Item* dearest = nullptr;
     for (int line = 0; line < lineCount; ++line) {
       Stock::Item& item = PickItem(random_, stock_);
-      if (line == 0) description = Describe(item, lineCount);
+      if (dearest == nullptr || item.charge > dearest->charge) dearest = &item;
       sum += WriteLine(item, Quantity(random_, item, client), number);
     }
-    WriteHeader(invoice, client, number, sum, description);
+    WriteHeader(invoice, client, number, sum, DescribeSale(random_, *dearest, lineCount, client.trade, invoice.day));
   }
 
   /// Writes what is known only at the end: the stock, and which lines wait for it.
@@ -128,15 +115,16 @@ class SalesWriter {
 
   void WriteHeader(Invoice& invoice, const Client& client, int number, Money sum, const std::string& description) {
     const Money charged = sum - sum * client.discount / 100;
-    const bool shipped = random_.Chance(15);
-    const Shipping shipping = shipped ? random_.Pick(kShipped) : Shipping{kPickUp, 0};
+    const bool shipped = random_.Chance(client.trade ? 40 : 15);
+    const Shipping& shipping = shipped ? random_.Pick(Shippings().subspan(1)) : Shippings().front();
     const Day shippingDay = shipped ? std::min(order_.today, invoice.day + random_.Between(1, 3)) : invoice.day;
     const Money interest = random_.Chance(2) ? random_.Between(2, 20) * kDollar : 0;
     invoice.tax = client.taxed ? Tax(charged) : 0;
     invoice.total = charged + shipping.charge + interest + invoice.tax;
     headers_.Add({number, client.number, invoice.day, description, double(client.discount), invoice.tax,
-                  shipping.charge, shippingDay, shipping.type, shipped ? TrackingNumber(random_) : "", interest,
-                  random_.Pick(SalesReps()), client.trade ? "Net 30" : "Due on receipt"});
+                  shipping.charge, shippingDay, std::string(shipping.service) + " " + shipping.option,
+                  shipped ? TrackingNumber(random_) : "", interest, random_.Pick(SalesReps()),
+                  client.trade ? "Net 30" : "Due on receipt"});
   }
 
   void WriteShortage(Database& database, const Shortage& shortage) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 
 namespace norvane::sample {
@@ -10,6 +11,7 @@ struct Town {
   const char* city;
   const char* state;
   const char* zipCode;
+  const char* areaCode;
 };
 
 struct Article {
@@ -18,6 +20,13 @@ struct Article {
   int price;  ///< in dimes, so that a discount of 10 or 20 % leaves whole cents
   int par;    ///< 0: work, which has no stock
   const char* warranty;
+};
+
+/// A way for goods to leave the shop.
+struct Shipping {
+  const char* service;
+  const char* option;
+  std::int64_t charge;  ///< in ten-thousandths
 };
 
 struct Supplier {
@@ -35,7 +44,8 @@ std::span<const char* const> ClientNotes();
 std::span<const char* const> CardNumbers();  ///< the payment industry's test numbers
 std::span<const char* const> SalesReps();
 std::span<const char* const> Categories();
-std::span<const Town> Towns();  ///< the first is the business's own
+std::span<const Shipping> Shippings();  ///< the first is over the counter
+std::span<const Town> Towns();          ///< the first is the business's own
 std::span<const Article> Articles();
 std::span<const Supplier> Suppliers();
 

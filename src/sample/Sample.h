@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "sample/Calendar.h"
+#include "sample/Contacts.h"
 #include "sample/Database.h"
 #include "sample/Random.h"
 
@@ -59,7 +60,7 @@ struct Payment {
   bool byCard = false;
 };
 
-std::vector<Client> WriteClients(Database& database, Random& random, const Order& order);
+std::vector<Client> WriteClients(Database& database, Random& random, Phones& phones, const Order& order);
 /// Company, categories and lookup rows that every sample has.
 void WriteSettings(Database& database);
 /// Invoices with their lines, in the order of their dates, and the items with the stock that these leave.
@@ -70,7 +71,7 @@ std::vector<Payment> WritePayments(Database& database, Random& random, const Ord
                                    const std::vector<Client>& clients, const std::vector<Invoice>& invoices);
 /// Vendors, and the registry: deposits each Friday of what clients paid in the week, by card and otherwise, and
 /// payments to vendors.
-void WriteLedger(Database& database, Random& random, const Order& order, const std::vector<Invoice>& invoices,
-                 const std::vector<Payment>& payments);
+void WriteLedger(Database& database, Random& random, Phones& phones, const Order& order,
+                 const std::vector<Invoice>& invoices, const std::vector<Payment>& payments);
 
 }  // namespace norvane::sample

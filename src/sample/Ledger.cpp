@@ -136,28 +136,28 @@ bool Cleared(Random& random, const Entry& entry, Day today) {
   return age > 30 || (age > 7 && random.Chance(70));
 }
 
-void WriteVendors(Database& database, Random& random) {
+void WriteVendors(Database& database, Random& random, Phones& phones) {
   Inserter rows(database, "tb_Vendor",
                 "VendorNum,Company,Address1,Address2,City,State,ZipCode,Phone,CelPhone,Fax,Email,WebPage,Notes,POnum,"
                 "Discount");
   int number = kFirstKey;
   for (const Supplier& supplier : Suppliers()) {
     const Town& town = random.Pick(Towns());
-    const auto phone = [&] { return "555-01" + std::to_string(random.Between(10, 99)); };
     const bool goods = std::string(supplier.expenseType) == "Inventory";
     const std::string house = std::to_string(random.Between(100, 9900));
+    const std::string domain = DomainOf(supplier.company);
     rows.Add({number, supplier.company, house + " " + random.Pick(Streets()), "", town.city, town.state, town.zipCode,
-              phone(), "", phone(), "orders@example.com", "www.example.com", supplier.note,
-              goods ? "ASC-" + std::to_string(number) : "", goods ? 2.5 * random.Below(5) : 0.0});
+              phones.Next(town), "", phones.Next(town), (goods ? "orders@" : "billing@") + domain, "www." + domain,
+              supplier.note, goods ? "ASC-" + std::to_string(number) : "", goods ? 2.5 * random.Below(5) : 0.0});
     ++number;
   }
 }
 
 }  // namespace
 
-void WriteLedger(Database& database, Random& random, const Order& order, const std::vector<Invoice>& invoices,
-                 const std::vector<Payment>& payments) {
-  WriteVendors(database, random);
+void WriteLedger(Database& database, Random& random, Phones& phones, const Order& order,
+                 const std::vector<Invoice>& invoices, const std::vector<Payment>& payments) {
+  WriteVendors(database, random, phones);
   Inserter rows(database, "tb_GL", "TransNum,Date,CheckNum,Vendor,Payment,Cleared,Category,Deposit,Notes");
   int number = kFirstKey;
   int check = 2001;

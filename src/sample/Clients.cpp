@@ -1,47 +1,11 @@
-#include <array>
-#include <cctype>
 #include <string_view>
 
+#include "sample/Contacts.h"
 #include "sample/Sample.h"
 #include "sample/Words.h"
 
 namespace norvane::sample {
 namespace {
-
-/// An address for mail is plain letters: accents fall off, all else that is no letter goes.
-std::string PlainLetters(std::string_view text) {
-  constexpr std::array<std::array<std::string_view, 2>, 12> kAccents{{{"Å", "a"},
-                                                                      {"á", "a"},
-                                                                      {"ç", "c"},
-                                                                      {"é", "e"},
-                                                                      {"è", "e"},
-                                                                      {"ë", "e"},
-                                                                      {"í", "i"},
-                                                                      {"ñ", "n"},
-                                                                      {"ö", "o"},
-                                                                      {"ú", "u"},
-                                                                      {"ü", "u"},
-                                                                      {"ø", "o"}}};
-  std::string plain(text);
-  for (const auto& [accented, letter] : kAccents)
-    for (auto at = plain.find(accented); at != std::string::npos; at = plain.find(accented))
-      plain.replace(at, accented.size(), letter);
-  std::string letters;
-  for (const char character : plain)
-    if (std::isalpha(static_cast<unsigned char>(character)))
-      letters += static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-  return letters;
-}
-
-/// Of the numbers kept free for fiction; local ones, since the lists' columns are narrow.
-std::string Phone(Random& random) {
-  return "555-01" + std::to_string(random.Between(10, 99));
-}
-
-std::string MakeCompany(Random& random) {
-  const std::string word = random.Pick(CompanyWords());
-  return word + " " + random.Pick(CompanyKinds());
-}
 
 struct Address {
   std::string street, unit, city, state, zipCode;
@@ -85,7 +49,7 @@ Name MakeName(Random& random, int place, int start) {
 
 }  // namespace
 
-std::vector<Client> WriteClients(Database& database, Random& random, const Order& order) {
+std::vector<Client> WriteClients(Database& database, Random& random, Phones& phones, const Order& order) {
   Inserter rows(database, "tb_Client",
                 "CustNum,Lname,Fname,Mname,Address1,Address2,City,State,ZipCode,HomePhone,WorkPhone,CelPhone,Fax,"
                 "Company,Email,WebPage,Notes,BillLname,BillFname,BillMname,BillAddress1,BillAddress2,Billcity,"
@@ -94,6 +58,7 @@ std::vector<Client> WriteClients(Database& database, Random& random, const Order
                 "ShipMname,ShipAddress1,ShipAddress2,Shipcity,ShipState,ShipZipCode,ShipHomePhone,ShipWorkPhone,"
                 "ShipCelPhone");
   std::vector<Client> clients;
+  Companies companies;
   const int start = random.Below(5'000);
   for (int place = 0; place < order.size.clients; ++place) {
     Client client{.number = kFirstKey + place, .trade = random.Chance(18)};
@@ -102,18 +67,20 @@ std::vector<Client> WriteClients(Database& database, Random& random, const Order
     client.discount = client.trade ? 10 * random.Below(3) : random.Chance(12) ? 10 : 0;
 
     const Name name = MakeName(random, place, start);
-    const std::string company = client.trade ? MakeCompany(random) : "";
-    const std::string site = client.trade ? "www.example.com/" + PlainLetters(company) : "";
-    const std::string mail = PlainLetters(name.first) + "." + PlainLetters(name.last) + "@example.com";
+    const std::string company = client.trade ? companies.Next(random) : "";
+    const std::string site = client.trade ? "www." + DomainOf(company) : "";
+    const std::string mail =
+        client.trade ? PlainWords(name.first) + "@" + DomainOf(company) : MailOf(random, name.first, name.last);
     const Address home = MakeAddress(random, town);
     // Most are billed and served where they live.
     const Address bill = random.Chance(85) ? home : MakeAddress(random, random.Pick(Towns()));
     const Address ship = random.Chance(85) ? home : MakeAddress(random, random.Pick(Towns()));
-    const std::string homePhone = Phone(random);
-    const std::string workPhone = client.trade || random.Chance(40) ? Phone(random) : "";
-    const std::string celPhone = random.Chance(80) ? Phone(random) : "";
-    const std::string fax = client.trade ? Phone(random) : "";
-    const std::string billMail = client.trade ? "accounts@example.com" : mail;
+    // Some have no other telephone than the one they carry.
+    const std::string homePhone = random.Chance(85) ? phones.Next(town) : "";
+    const std::string workPhone = client.trade || random.Chance(35) ? phones.Next(town) : "";
+    const std::string celPhone = homePhone.empty() || random.Chance(80) ? phones.Next(random.Pick(Towns())) : "";
+    const std::string fax = client.trade ? phones.Next(town) : "";
+    const std::string billMail = client.trade ? "accounts@" + DomainOf(company) : mail;
     const Card card = MakeCard(random, order.today, 45);
     const Card second = card.number.empty() ? Card{} : MakeCard(random, order.today, 25);
     const std::string purchaseOrder = client.trade ? "PO-" + std::to_string(random.Between(1000, 9999)) : "";

@@ -9,6 +9,18 @@
 #include "maintenance/Maintenance.h"
 #include "ui/QtDesktop.h"
 
+namespace {
+
+std::optional<std::filesystem::path> FolderToOpen(const char* executable) {
+  const QStringList options = QApplication::arguments();
+  if (options.contains("--sample")) return norvane::SampleFolder();
+  return norvane::ApplicationFolder(executable, [&] {
+    return options.contains("--empty") ? norvane::FirstStart::Empty : norvane::AskForFirstStart();
+  });
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   const char* const startedAs = argv[0];
   norvane::Application application(argc, argv);
@@ -17,9 +29,10 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(":/norvanes/pictures/norvanes.svg"));
 
   const norvane::RegionalSettings settings = norvane::SystemRegionalSettings();
-  const std::filesystem::path folder = norvane::ApplicationFolder(startedAs);
-  norvane::ui::QtDesktop desktop(settings, norvane::ui::Theme::System, folder);
-  norvane::Program program(desktop, settings, folder);
+  const auto folder = FolderToOpen(startedAs);
+  if (!folder) return 0;
+  norvane::ui::QtDesktop desktop(settings, norvane::ui::Theme::System, *folder);
+  norvane::Program program(desktop, settings, *folder);
   application.ReportTo(desktop);
   norvane::Compose(program);
   program.Start(norvane::screen::kCustomer);

@@ -29,6 +29,11 @@ void TextBox::SetText(std::string text) {
   Change.Raise();
 }
 
+void TextBox::SetSuggestions(std::vector<std::string> texts) {
+  suggestions_ = std::move(texts);
+  Notify(Aspect::Items);
+}
+
 // What was pasted from a page or a sheet would break the row of a list that shows the text.
 void TextBox::UserType(const std::string& text) {
   if (!Enabled()) return;

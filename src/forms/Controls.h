@@ -10,7 +10,7 @@
 namespace norvane {
 
 /// Colours as the program writes them; the drawing side maps both to what its theme can show.
-enum class Colour : std::int32_t { Black = 0, Red = 255 };
+enum class Colour : std::int32_t { Black = 0, Red = 255, Grey = 8421504 };
 
 class Label : public Control {
  public:
@@ -26,10 +26,14 @@ class Label : public Control {
   Colour colour_ = Colour::Black;
 };
 
+/// What a text box is for. It takes any text; one that can't be read as such is marked.
+enum class TextContent { Text, Number, Date };
+
 /// How a text box looks.
 struct TextBoxStyle {
   int characters = 24;  ///< the width it asks for
   bool rightAligned = false;
+  TextContent content = TextContent::Text;
 };
 
 class TextBox : public Control {
@@ -39,6 +43,9 @@ class TextBox : public Control {
   /// Raises Change if the text differs, by code as by the user.
   void SetText(std::string text);
   const TextBoxStyle& Style() const { return style_; }
+  /// Texts offered while the user types one that they begin with.
+  const std::vector<std::string>& Suggestions() const { return suggestions_; }
+  void SetSuggestions(std::vector<std::string> texts);
   bool TakesFocus() const override { return true; }
 
   /// The user's typing: the focus comes here first, then the text is what was typed, in one line.
@@ -52,6 +59,7 @@ class TextBox : public Control {
  private:
   std::string text_;
   TextBoxStyle style_;
+  std::vector<std::string> suggestions_;
 };
 
 /// A text box with the mask "##/##/##": digits fall into places, empty ones show as "_".

@@ -111,6 +111,16 @@ std::string Grid::DisplayText(int row, int col) const {
   return item < 0 ? content : column.items[static_cast<std::size_t>(item)];
 }
 
+bool Grid::IsEmpty() const {
+  const int first = Kind() == GridKind::Editable ? 1 : 0;
+  for (int row = 1; row < Rows(); ++row) {
+    for (int col = first; col < Cols(); ++col) {
+      if (!model_->table.Cell(row, col).empty()) return false;
+    }
+  }
+  return true;
+}
+
 void Grid::SetCell(int row, int col, std::string_view text) {
   CheckRow(row);
   CheckCol(col);

@@ -103,6 +103,12 @@ class Grid : public Control {
   /// Empties all cells, headings too; keeps Rows, Cols, widths and cursor.
   void Clear();
 
+  /// What the user can do about a grid without content, shown in the room that its rows leave.
+  const std::string& EmptyHint() const { return emptyHint_; }
+  void SetEmptyHint(std::string hint) { emptyHint_ = std::move(hint); }
+  /// Whether no cell of a data row holds a text, markers aside.
+  bool IsEmpty() const;
+
   // The cursor. Writing a value that differs raises LeaveCell, RowColChange, EnterCell.
   int Row() const;
   void SetRow(int row);
@@ -214,6 +220,7 @@ class Grid : public Control {
   void OpenHelper();
 
   std::unique_ptr<Model> model_;
+  std::string emptyHint_;
 };
 
 }  // namespace norvane

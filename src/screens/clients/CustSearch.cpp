@@ -9,6 +9,7 @@ CustSearch::CustSearch(Program& host)
     : Form(host, kName, {.caption = "Select Client", .width = 4200, .height = 5400, .goesWithOwner = true}) {
   SetLayout(layout::Column({layout::Stretch(CustList), layout::Strip({layout::Space(), btnOK, btnCancel})}));
   SetExitButton(btnCancel);
+  CustList.SetEmptyHint("No clients yet.");
   CustList.DblClick = [this] { btnOK_Click(); };
   CustList.KeyDown = [this](int keyCode) {
     if (keyCode == static_cast<int>(Key::Enter)) btnOK_Click();

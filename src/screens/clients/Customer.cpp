@@ -29,6 +29,7 @@ Customer::Customer(Program& host) : Form(host, kName, {.caption = "Norvanes", .w
                           layout::Group(Frame1, layout::Strip({btnPayments, btnVendors, btnInventory, btnExit}))})),
        layout::Stretch(CustList2), StatusBar1}));
   SetExitButton(btnExit);
+  CustList2.SetEmptyHint("No clients yet. Press Ctrl+N to enter the first one.");
   WireButtons();
   WireMenu();
   CustList2.Click = [this] { CustList2_Click(); };

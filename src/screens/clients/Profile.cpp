@@ -1,7 +1,11 @@
 #include "screens/clients/Profile.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "core/Val.h"
 #include "data/Client.h"
+#include "screens/Suggestions.h"
 #include "screens/clients/ClientCommands.h"
 #include "screens/clients/Customer.h"
 #include "screens/clients/RefreshCustList.h"
@@ -104,11 +108,13 @@ layout::Node CityLine(TextBox& city, TextBox& state, TextBox& zipCode) {
 }  // namespace
 
 Profile::Profile(Program& host) : Form(host, kName, {.caption = "Client Profile"}) {
-  SetLayout(layout::Column(
-      {layout::Strip({btnSave, btnDelete, btnNewInvoice, btnNewCustomer, layout::Space(), Label31, lblBalDue,
-                      layout::Space(), btnExit}),
-       layout::Stretch(
-           layout::Tabs(SSTab1, {{"Client", ClientTab()}, {"Billing", BillingTab()}, {"Shipping", ShippingTab()}}))}));
+  SetLayout(
+      layout::Column({layout::Strip({btnSave, btnDelete, btnNewInvoice, btnNewCustomer, layout::Space(), Label31,
+                                     lblBalDue, layout::Space(), btnExit}),
+                      layout::Stretch(layout::Tabs(
+                          SSTab1, {{"Client", ClientTab()}, {"Billing", BillingTab()}, {"Shipping", ShippingTab()}})),
+                      layout::Strip({lblSaved, layout::Space()})}));
+  for (Label* label : {&lblSaved, &lblBillEmpty, &lblShipEmpty}) label->SetForeColor(Colour::Grey);
   SetExitButton(btnExit);
   btnSave.Click = [this] { btnSave_Click(); };
   btnDelete.Click = [this] { btnDelete_Click(); };
@@ -140,7 +146,7 @@ layout::Node Profile::BillingTab() {
     return Stretch(Group(caption, Fields({Field("Card #:", card), Field("Type:", type), Field("Exp Date:", expDate)})));
   };
   return Column(
-      {NameGroup(txtBillFname, txtBillMName, txtBillLname),
+      {Row({btnSame, lblBillEmpty, Space()}), NameGroup(txtBillFname, txtBillMName, txtBillLname),
        Group("Address", Fields({Field("Street:", txtBillAddress), Field("Street2:", txtBillAddress2),
                                 CityLine(txtBillCity, txtBillState, TxtBillZipCode)})),
        Group("Contact", Fields({Field("Home Phone:", txtBillHomePHone), Field("Cell Phone:", txtBillCellPhone),
@@ -149,31 +155,57 @@ layout::Node Profile::BillingTab() {
                                2)),
        Row({method("Payment Method 1", txtCard1, cmbPmtType1, txtExpDate1),
             method("Payment Method 2", txtCard2, cmbPmtType2, txtExpDate2)}),
-       Row({Field("Discount %:", txtDiscount), Field("Purchase Order #:", txtPOnum), Space(), btnSame}), Space()});
+       Row({Field("Discount %:", txtDiscount), Field("Purchase Order #:", txtPOnum), Space()}), Space()});
 }
 
 layout::Node Profile::ShippingTab() {
   using namespace layout;
   return Column(
-      {NameGroup(txtShippingFname, txtShippingMname, txtshippingLname),
+      {Group("Same as", Row({OptCust, OptBilling, Command1, Command2, lblShipEmpty, Space()})),
+       NameGroup(txtShippingFname, txtShippingMname, txtshippingLname),
        Group("Address", Fields({Field("Address:", txtShippingAddress), Field("Address2:", txtShippingAddress2),
                                 CityLine(txtShippingCity, txtShippingState, txtShippingZipCode)})),
        Group("Contact", Fields({Field("Home Phone:", txtShippingHomePhone), Field("Cell Phone:", txtShippingCelPhone),
                                 Field("Work Phone:", txtShippingWorkPhone)},
                                2)),
-       Group("Same as", Row({OptCust, OptBilling, Command1, Command2, Space()})), Space()});
+       Space()});
 }
 
 void Profile::WireChanges() {
-  const auto changed = [this] { Changed = true; };
+  const auto changed = [this] { Touched(); };
   for (const Bound& bound : kBound) (this->*bound.box).Change = changed;
   cmbPmtType1.Change = changed;
   cmbPmtType2.Change = changed;
   txtDiscount.Change = changed;
   // What the main screen's list shows.
   for (TextBox* box : {&txtFname, &txtLname, &txtHomePhone, &txtWorkPhone, &txtCellPhone, &txtEmail}) {
-    box->Change.Replace([this] { Changed = globals.RefreshNeeded = true; });
+    box->Change.Replace([this] {
+      globals.RefreshNeeded = true;
+      Touched();
+    });
   }
+  for (TextBox* city : {&txtCity, &txtBillCity, &txtShippingCity}) Suggest(*city, workspace, &UsedTexts::Cities);
+  OptCust.SetToolTip(kCopyClient);
+  OptBilling.SetToolTip(kCopyBilling);
+}
+
+void Profile::Touched() {
+  Changed = true;
+  ShowSaved(false);
+  ShowEmptyAddresses();
+}
+
+void Profile::ShowSaved(bool saved) {
+  lblSaved.SetCaption(saved ? "Saved" : "Not saved");
+}
+
+// The telephones don't count: no invoice prints them.
+void Profile::ShowEmptyAddresses() {
+  const auto isEmpty = [](std::initializer_list<const TextBox*> boxes) {
+    return std::all_of(boxes.begin(), boxes.end(), [](const TextBox* box) { return box->Text().empty(); });
+  };
+  lblBillEmpty.SetVisible(isEmpty({&txtBillFname, &txtBillLname, &txtBillAddress, &txtBillCity}));
+  lblShipEmpty.SetVisible(isEmpty({&txtShippingFname, &txtshippingLname, &txtShippingAddress, &txtShippingCity}));
 }
 
 void Profile::Form_Load() {
@@ -188,6 +220,8 @@ void Profile::Form_Load() {
     globals.ProfileLoaded = false;
     // Filling the boxes has raised their Change. RefreshNeeded keeps what that did to it.
     Changed = false;
+    ShowSaved(!numberIsUnsaved_);
+    ShowEmptyAddresses();
     client_ = {NumberShown(), txtLname.Text().empty() ? "" : NameShown()};
     SelectClient(program, client_);
     AddPaymentTypes();
@@ -260,7 +294,7 @@ bool Profile::Save() {
     client_ = {NumberShown(), NameShown()};
     SelectClient(program, client_);
     globals.NewClientMode = false;
-    ShowSaved();
+    ShowNotice();
     if (globals.RefreshNeeded) {
       RefreshCustList(program);
       globals.RefreshNeeded = false;
@@ -269,6 +303,7 @@ bool Profile::Save() {
     globals.oClient->CloseCn();
     screens.Unload(screen::kCustomerSaved);
     Changed = false;
+    ShowSaved(stored);
   });
   return stored;
 }
@@ -285,7 +320,7 @@ void Profile::TakeFromControls() {
   client->Discount = convert.ToDouble(txtDiscount.Text());
 }
 
-void Profile::ShowSaved() {
+void Profile::ShowNotice() {
   Refresh();
   screens.Show(screen::kCustomerSaved, {.owner = this});
   desktop.DoEvents();

@@ -23,6 +23,7 @@ class Profile : public Form, public ClientScreen {
   Button btnExit{*this, "btnExit", {.toolTip = "Exit client profile", .icon = "exit"}};
   Label Label31{*this, "Label31", "Balance Due:"};
   Label lblBalDue{*this, "lblBalDue"};
+  Label lblSaved{*this, "lblSaved"};
   TabControl SSTab1{*this, "SSTab1"};
 
   // The tab "Client".
@@ -64,9 +65,10 @@ class Profile : public Form, public ClientScreen {
   TextBox txtCard2{*this, "txtCard2"};
   ComboBox cmbPmtType2{*this, "cmbPmtType2"};
   TextBox txtExpDate2{*this, "txtExpDate2", {.characters = 10}};
-  TextBox txtDiscount{*this, "txtDiscount", {.characters = 8, .rightAligned = true}};
+  TextBox txtDiscount{*this, "txtDiscount", {.characters = 8, .rightAligned = true, .content = TextContent::Number}};
   TextBox txtPOnum{*this, "txtPOnum"};
-  Button btnSame{*this, "btnSame", {.caption = "Same as &Client"}};
+  Button btnSame{*this, "btnSame", {.caption = "Same as &Client", .toolTip = kCopyClient}};
+  Label lblBillEmpty{*this, "lblBillEmpty", kEmptyAddress};
 
   // The tab "Shipping".
   TextBox txtShippingFname{*this, "txtShippingFname"};
@@ -82,10 +84,15 @@ class Profile : public Form, public ClientScreen {
   TextBox txtShippingWorkPhone{*this, "txtShippingWorkPhone"};
   OptionButton OptCust{*this, "OptCust", "Client", "Same as"};
   OptionButton OptBilling{*this, "OptBilling", "Billing", "Same as"};
-  Button Command1{*this, "Command1", {.caption = " &Client"}};
-  Button Command2{*this, "Command2", {.caption = " &Billing"}};
+  Button Command1{*this, "Command1", {.caption = " &Client", .toolTip = kCopyClient}};
+  Button Command2{*this, "Command2", {.caption = " &Billing", .toolTip = kCopyBilling}};
+  Label lblShipEmpty{*this, "lblShipEmpty", kEmptyAddress};
 
  private:
+  static constexpr const char* kCopyClient = "Copy name, address and phones from the Client tab";
+  static constexpr const char* kCopyBilling = "Copy name, address and phones from the Billing tab";
+  static constexpr const char* kEmptyAddress = "Invoices print this address, which is empty yet.";
+
   layout::Node ClientTab();
   layout::Node BillingTab();
   layout::Node ShippingTab();
@@ -102,7 +109,10 @@ class Profile : public Form, public ClientScreen {
   void btnSave_Click();
   bool Save();
   void TakeFromControls();
-  void ShowSaved();
+  void ShowNotice();
+  void ShowSaved(bool saved);
+  void ShowEmptyAddresses();
+  void Touched();
 
   Answer OfferToSave();
   bool SavedForInvoice();

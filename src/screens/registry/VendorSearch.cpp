@@ -10,6 +10,7 @@ VendorSearch::VendorSearch(Program& host)
     : Form(host, kName, {.caption = "Vendor Listing", .width = 4600, .height = 5400, .goesWithOwner = true}) {
   SetLayout(layout::Column({layout::Stretch(VendorList), layout::Strip({layout::Space(), btnOK, btnCancel})}));
   SetExitButton(btnCancel);
+  VendorList.SetEmptyHint("No vendors yet.");
   VendorList.DblClick = [this] { btnOK_Click(); };
   btnOK.Click = [this] { btnOK_Click(); };
   btnCancel.Click = [this] { Unload(); };

@@ -28,12 +28,14 @@ Value ChargeOf(const Recordset& invoice, const Conversions& convert) {
 CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Client Sales"}) {
   using namespace layout;
   Frame3.SetWidth(1050);
-  SetLayout(Column(
-      {Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts, Space(),
-                            Group(Frame3, Strip({btnInventory, btnExit}))})),
-       Group(Frame1, Strip({Row({Label4, CmbInvoice}), Row({Label2, Row({txtSinceDate, DTPicker1}), btnGo}), Space()})),
-       Stretch(InvoiceList), Strip({Space(), Label3, lblBalDue})}));
+  SetLayout(Column({Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts,
+                                         Space(), Group(Frame3, Strip({btnInventory, btnExit}))})),
+                    Group(Frame1, Strip({Row({Label4, CmbInvoice}),
+                                         Row({Label2, Row({txtSinceDate, DTPicker1}), btnGo}), Space(), lblClient})),
+                    Stretch(InvoiceList), Strip({Space(), Label3, lblBalDue})}));
   SetExitButton(btnExit);
+  lblClient.SetForeColor(Colour::Grey);
+  InvoiceList.SetEmptyHint("No invoices since this date.");
   btnDetails.Click = [this] { InvoiceList_DblClick(); };
   btnNewInvoice.Click = [this] {
     TakeSelection();
@@ -115,6 +117,7 @@ void CustInvoices::ListInvoices(Recordset& invoices, const ClientShown& client, 
   CmbInvoice.SetText(all ? kAllClients : kSelectedClient);
   Label3.SetVisible(!all);
   lblBalDue.SetVisible(!all);
+  lblClient.SetCaption(all ? "" : client.name);
   for (; !invoices.Eof(); invoices.MoveNext()) {
     InvoiceList.AddItem(GridRow({convert.ToText(invoices.Field("InvoiceDate")), invoices.Text("InvoiceNum"),
                                  invoices.Text("CustNum"), "", invoices.Text("lname") + ", " + invoices.Text("fname"),

@@ -34,6 +34,7 @@ class CustInvoices : public Form {
   MaskedBox txtSinceDate{*this, "txtSinceDate"};
   DatePicker DTPicker1{*this, "DTPicker1"};
   Button btnGo{*this, "btnGo", {.toolTip = "Get invoices for client and since date criteria", .icon = "go"}};
+  Label lblClient{*this, "lblClient"};
   Grid InvoiceList{*this, "InvoiceList", GridKind::List};
   Label Label3{*this, "Label3", "Balance Due:"};
   Label lblBalDue{*this, "lblBalDue"};

@@ -3,6 +3,7 @@
 #include "core/Val.h"
 #include "data/Client.h"
 #include "data/Invoice.h"
+#include "screens/Suggestions.h"
 #include "screens/clients/ClientCommands.h"
 #include "screens/sales/CustInvoices.h"
 #include "screens/sales/GetInvoices.h"
@@ -23,10 +24,14 @@ InvoiceDetail::InvoiceDetail(Program& host)
             [this](std::int32_t row) { StoreRow(row); }) {
   using namespace layout;
   txtTax.SetToolTip("Sales Tax");
-  SetLayout(Column(
-      {Strip({btnSave, btnNew, btnPrint, btnPayments, Space(), btnExit}), Head(),
-       Stretch(Group("Invoice Items", Column({Stretch(ItemList), Strip({btnNewItem, btnRemove, Space(), lblLessStored,
-                                                                        Field("Total Charges:", lblTotal)})})))}));
+  ItemList.SetEmptyHint("Press + to add items from stock.");
+  lblSaved.SetForeColor(Colour::Grey);
+  lblLessStored.SetForeColor(Colour::Red);
+  SetLayout(
+      Column({Strip({btnSave, btnNew, btnPrint, btnPayments, Space(), btnExit}), Head(),
+              Stretch(Group("Invoice Items",
+                            Column({Stretch(ItemList), Strip({btnNewItem, btnRemove, Space(), lblSaved, lblLessStored,
+                                                              Field("Total Charges:", lblTotal)})})))}));
   SetExitButton(btnExit);
   WireButtons();
   WireChanges();
@@ -58,13 +63,18 @@ void InvoiceDetail::WireButtons() {
 
 // A change counts only as a change: the total waits for the next line that is left.
 void InvoiceDetail::WireChanges() {
-  const auto changed = [this] { globals.InvoiceDirty = true; };
+  const auto changed = [this] {
+    globals.InvoiceDirty = true;
+    ShowSaved(false);
+  };
   for (TextBox* box : {&txtDate, &txtDescription, &txtDiscount, &txtInterest, &txtSalesRep, &txtShipCharge,
                        &txtShipDate, &txtTax, &txtTerms, &txtTrackNum}) {
     box->Change = changed;
   }
   cmbShipType.Change = changed;
   txtShipCharge.LostFocus = [this] { txtShipCharge_LostFocus(); };
+  Suggest(txtTerms, workspace, &UsedTexts::Terms);
+  Suggest(txtSalesRep, workspace, &UsedTexts::SalesReps);
 }
 
 // Loading.
@@ -117,6 +127,7 @@ void InvoiceDetail::OpenInvoice() {
   ListItems();
   // Filling the fields has set it.
   globals.InvoiceDirty = false;
+  ShowSaved(true);
 }
 
 // What oInvoice holds of the last invoice carries over, so that a run of similar invoices needs no retyping.
@@ -140,6 +151,7 @@ void InvoiceDetail::BeginInvoice() {
   lblCustomer.SetCaption(globals.oClient->ClientName(client_.number));
   globals.oClient->CloseCn();
   globals.InvoiceDirty = true;
+  ShowSaved(false);
 }
 
 /// Nothing could be read, and nothing of what is typed can be stored.
@@ -153,6 +165,7 @@ void InvoiceDetail::ShowNone() {
   }
   cmbShipType.SetText("");
   globals.InvoiceDirty = false;
+  lblSaved.SetCaption("");
 }
 
 void InvoiceDetail::ShowShippingAndCharges() {
@@ -183,6 +196,10 @@ void InvoiceDetail::SelectShown() {
 
 // Saving.
 
+void InvoiceDetail::ShowSaved(bool saved) {
+  lblSaved.SetCaption(saved ? "Saved" : "Not saved");
+}
+
 void InvoiceDetail::btnSave_Click() {
   Save();
 }
@@ -204,6 +221,7 @@ bool InvoiceDetail::Save() {
     invoice->CloseCn();
     sales.ShowBalanceDue();
     globals.InvoiceDirty = false;
+    ShowSaved(stored);
   });
   return stored;
 }

@@ -30,21 +30,23 @@ class InvoiceDetail : public Form, public ClientScreen {
   Button btnExit{*this, "btnExit", {.toolTip = "Exit Invoice Details", .icon = "exit"}};
   Label lblInvoiceNum{*this, "lblInvoiceNum"};
   Label lblCustomer{*this, "lblCustomer"};
-  TextBox txtDate{*this, "txtDate", {.characters = 12}};
+  TextBox txtDate{*this, "txtDate", {.characters = 12, .content = TextContent::Date}};
   TextBox txtDescription{*this, "txtDescription", {.characters = 40}};
   TextBox txtSalesRep{*this, "txtSalesRep"};
   TextBox txtTerms{*this, "txtTerms"};
   ComboBox cmbShipType{*this, "cmbShipType"};
-  TextBox txtShipDate{*this, "txtShipDate", {.characters = 12}};
-  TextBox txtShipCharge{*this, "txtShipCharge", {.characters = 12, .rightAligned = true}};
+  TextBox txtShipDate{*this, "txtShipDate", {.characters = 12, .content = TextContent::Date}};
+  TextBox txtShipCharge{
+      *this, "txtShipCharge", {.characters = 12, .rightAligned = true, .content = TextContent::Number}};
   TextBox txtTrackNum{*this, "txtTrackNum"};
-  TextBox txtDiscount{*this, "txtDiscount", {.characters = 12, .rightAligned = true}};
-  TextBox txtInterest{*this, "txtInterest", {.characters = 12, .rightAligned = true}};
+  TextBox txtDiscount{*this, "txtDiscount", {.characters = 12, .rightAligned = true, .content = TextContent::Number}};
+  TextBox txtInterest{*this, "txtInterest", {.characters = 12, .rightAligned = true, .content = TextContent::Number}};
   Button btnTax{*this, "btnTax", {.caption = "Sales Tax ->", .toolTip = "Calculate State Sales Tax"}};
-  TextBox txtTax{*this, "txtTax", {.characters = 12, .rightAligned = true}};
+  TextBox txtTax{*this, "txtTax", {.characters = 12, .rightAligned = true, .content = TextContent::Number}};
   Grid ItemList{*this, "ItemList", GridKind::Editable};
   Button btnNewItem{*this, "btnNewItem", {.toolTip = "Add inventory item to invoice", .icon = "add"}};
   Button btnRemove{*this, "btnRemove", {.toolTip = "Delete Selected Item", .icon = "remove"}};
+  Label lblSaved{*this, "lblSaved"};
   Label lblLessStored{*this, "lblLessStored"};
   Label lblTotal{*this, "lblTotal"};
 
@@ -76,6 +78,7 @@ class InvoiceDetail : public Form, public ClientScreen {
   void ListItems();
   void RequireInvoice() const;
   void SelectShown();
+  void ShowSaved(bool saved);
 
   void btnSave_Click();
   bool Save();

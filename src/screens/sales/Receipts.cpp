@@ -41,10 +41,13 @@ Receipts::Receipts(Program& host)
   using namespace layout;
   PaymentList.SetTop(900);
   for (Button* button : {&Command2, &btnPrint}) button->SetWidth(480);
-  SetLayout(Column({Strip({Field("View Payments Received from:", CmbReceipt),
-                           DateField("Since:", txtSinceDate, DTPicker1), btnGo, Space(), btnPrint, Command2}),
-                    Stretch(Row({Column({btnNew, btnDelete, Space()}), Stretch(PaymentList)}))}));
+  SetLayout(
+      Column({Strip({Field("View Payments Received from:", CmbReceipt), DateField("Since:", txtSinceDate, DTPicker1),
+                     btnGo, Space(), lblClient, Label3, lblBalDue, Space(), btnPrint, Command2}),
+              Stretch(Row({Column({btnNew, btnDelete, Space()}), Stretch(PaymentList)}))}));
   SetExitButton(Command2);
+  lblClient.SetForeColor(Colour::Grey);
+  PaymentList.SetEmptyHint("No payments since this date. Type the first one into the row with the star.");
   WritePickedDate(DTPicker1, txtSinceDate);
   btnGo.Click = [this] { btnGo_Click(); };
   PaymentList.Click = [this] { PaymentList_Click(); };
@@ -80,7 +83,7 @@ void Receipts::SetPayments() {
     CmbReceipt.SetText(client_.number == kEveryClient ? kAllClients : kSelectedClient);
     ReadPayments();
     SetUpGrid();
-    ReadCards();
+    ReadClientOfList();
     PaymentList.SetColComboList(kType, TypeItems());
     ListPayments();
   });
@@ -111,7 +114,7 @@ void Receipts::SetUpGrid() {
 }
 
 // The second card is offered under the first one's number.
-void Receipts::ReadCards() {
+void Receipts::ReadClientOfList() {
   const Object<Client> client = globals.oClient;
   client->OpenCn();
   clientIsKnown_ = client->GetClient(client_.number);
@@ -119,7 +122,22 @@ void Receipts::ReadCards() {
   CardType2 = client->PaymentType2;
   CardNo1 = client->CardNum1;
   CardNo2 = client->CardNum1;
+  lblClient.SetCaption(clientIsKnown_ ? client->lname + ", " + client->fname : "");
   client->CloseCn();
+  ShowBalance();
+}
+
+// Nothing else in an empty list says whose it is and what is owed.
+void Receipts::ShowBalance() {
+  for (Label* label : {&lblClient, &Label3, &lblBalDue}) label->SetVisible(clientIsKnown_);
+  if (!clientIsKnown_) return;
+  const Object<Client> client = globals.oClient;
+  Date upToToday;
+  client->OpenCn();
+  const Currency balance = client->ClientBal(client_.number, upToToday);
+  client->CloseCn();
+  lblBalDue.SetCaption(convert.CurrencyText(balance));
+  lblBalDue.SetForeColor(balance > Currency() ? Colour::Red : Colour::Black);
 }
 
 std::string Receipts::TypeItems() const {
@@ -287,6 +305,7 @@ void Receipts::StoreRow(std::int32_t row) {
   payment->SavePayment();
   payment->CloseCn();
   PaymentList.SetCell(row, kTransNum, convert.ToText(std::int32_t{payment->PayNum}));
+  if (payment->PayNum != 0) ShowBalance();
 }
 
 // Buttons.

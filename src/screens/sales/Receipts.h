@@ -28,6 +28,9 @@ class Receipts : public Form, public ClientScreen {
   Button Command2{*this, "Command2", {.toolTip = "Exit Payments Received", .icon = "exit"}};
   Button btnNew{*this, "btnNew", {.toolTip = "Add new client payment", .icon = "add"}};
   Button btnDelete{*this, "btnDelete", {.toolTip = "Delete selected client payment", .icon = "delete"}};
+  Label lblClient{*this, "lblClient"};
+  Label Label3{*this, "Label3", "Balance Due:"};
+  Label lblBalDue{*this, "lblBalDue"};
   Grid PaymentList{*this, "PaymentList", GridKind::Editable};
 
   bool Shows(std::int32_t custNum) const override;
@@ -41,7 +44,8 @@ class Receipts : public Form, public ClientScreen {
   void SetPayments();
   void ReadPayments();
   void SetUpGrid();
-  void ReadCards();
+  void ReadClientOfList();
+  void ShowBalance();
   std::string TypeItems() const;
   void ListPayments();
   std::string CellsOf(const Recordset& payment) const;

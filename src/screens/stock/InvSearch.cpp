@@ -17,6 +17,7 @@ InvSearch::InvSearch(Program& host)
   SetLayout(Column({Strip({Field("Category:", cmbCategory), Space(), btnInventory}), Stretch(InventoryList),
                     Strip({Space(), btnOK, btnCancel})}));
   SetExitButton(btnCancel);
+  InventoryList.SetEmptyHint("No items in this category. The button above opens the stock list to enter some.");
   cmbCategory.Click = [this] { cmbCategory_Click(); };
   InventoryList.DblClick = [this] { btnOK_Click(); };
   InventoryList.KeyDown = [this](int keyCode) {

@@ -28,6 +28,7 @@ frmInventory::frmInventory(Program& host)
   SetLayout(Column({Strip({Field("Category:", cmbCategory), btnCategories, Space(), btnNewItem, btnDelete, Command2}),
                     Stretch(InventoryList)}));
   SetExitButton(Command2);
+  InventoryList.SetEmptyHint("Press + and type what you sell: its description, its price and how many there are.");
   cmbCategory.Click = [this] { cmbCategory_Click(); };
   InventoryList.GotFocus = [this] { InventoryList.SetCol(kDescription); };
   InventoryList.AfterEdit = [this](int row, int) { InventoryList_AfterEdit(row); };

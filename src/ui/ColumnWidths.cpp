@@ -1,6 +1,7 @@
 #include "ui/ColumnWidths.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "ui/Convert.h"
 
@@ -31,6 +32,13 @@ class Sharing {
     for (std::size_t i = 0; i < columns_.size(); ++i) {
       if (columns_[i].given > 0) Give(i, std::clamp(wanted(columns_[i]) - widths_[i], 0, std::max(0, room_)));
     }
+  }
+
+  /// Shares out what is left by the widths that the columns have.
+  void Spread() {
+    const int all = std::accumulate(widths_.begin(), widths_.end(), 0);
+    const int left = std::max(0, room_);
+    for (std::size_t i = 0; all > 0 && i < columns_.size(); ++i) Give(i, left * widths_[i] / all);
   }
 
   void GiveRest(int column) {
@@ -78,14 +86,15 @@ ColumnContent LookAt(const Grid& grid, int col, const CellTexts& texts, const QF
   return content;
 }
 
-std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, int rest) {
+std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, Rest rest) {
   if (columns.empty()) return {};
   Sharing sharing(columns, room);
   sharing.CutShort();
   sharing.Raise([](const ColumnNeeds& column) { return column.whole; });
   sharing.Raise([](const ColumnNeeds& column) { return column.given; });
   sharing.Raise([](const ColumnNeeds& column) { return static_cast<int>(column.given * kColumnGrowth); });
-  sharing.GiveRest(rest);
+  if (rest.spreads) sharing.Spread();
+  sharing.GiveRest(rest.column);
   return sharing.Widths();
 }
 

@@ -29,10 +29,16 @@ struct ColumnNeeds {
   int least = 0;  ///< the narrowest at which its texts can be read
 };
 
+/// What becomes of room that no column needs.
+struct Rest {
+  int column = -1;       ///< takes it, unless it is -1
+  bool spreads = false;  ///< all columns take their share first
+};
+
 /// Divides the room among the columns. First each gets the width it was given or what its texts need, whichever is
 /// less, but never less than its least. Where that is too much, the widest columns are cut to one common width before
 /// the grid scrolls; as far as there is room, all texts get what they need, then each column the width it was given,
-/// then it grows with the font. Column `rest` takes what is left, unless it is -1.
-std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, int rest);
+/// then it grows with the font. `rest` says who takes what is left.
+std::vector<int> FitColumns(const std::vector<ColumnNeeds>& columns, int room, Rest rest);
 
 }  // namespace norvane::ui

@@ -47,7 +47,8 @@ void StyleCalendar(QCalendarWidget& calendar) {
   calendar.setMinimumHeight((kHeadingRows + kWeeks) * (calendar.fontMetrics().height() + kDayPadding));
 }
 
-/// Opens the calendar below a button; a day picked goes to `picked` as long as the binding exists.
+}  // namespace
+
 void OpenCalendar(QWidget& button, QDate day, Binding& binding, const std::function<void(QDate)>& picked) {
   auto* popup = new QFrame(&button, Qt::Popup);
   popup->setAttribute(Qt::WA_DeleteOnClose);
@@ -75,6 +76,8 @@ void OpenCalendar(QWidget& button, QDate day, Binding& binding, const std::funct
   popup->show();
   calendar->setFocus();
 }
+
+namespace {
 
 /// Up and Down change the day, F4 and Alt+Down open the calendar, and Tab leaves.
 bool UseKey(const QKeyEvent& event, DatePicker& picker, QToolButton& widget) {

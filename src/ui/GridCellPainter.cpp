@@ -15,7 +15,34 @@ bool IsNegative(const QString& figure) {
   return figure.startsWith('-') || figure.startsWith('(');
 }
 
+/// Under the text, as spelling is marked.
+void DrawWave(QPainter& painter, const QRect& text) {
+  constexpr int kStep = 2;
+  QPolygon wave;
+  for (int x = text.left(); x <= text.right(); x += kStep) {
+    wave.append({x, text.bottom() - (wave.size() % 2 == 0 ? 0 : kStep)});
+  }
+  painter.drawPolyline(wave);
+}
+
 }  // namespace
+
+bool GridCellPainter::CanBeRead(int row, int col) const {
+  if (!grid_->ColEditable(col) || row >= grid_->Rows()) return true;
+  const std::string content = grid_->Cell(row, col);
+  if (content.empty()) return true;
+  switch (grid_->ColDataType(col)) {
+    case ColumnType::Number:
+    case ColumnType::Currency:
+      return convert_.IsNumeric(content);
+    case ColumnType::Date:
+      return convert_.IsDate(content);
+    case ColumnType::Plain:
+    case ColumnType::Boolean:
+      break;
+  }
+  return true;
+}
 
 QRect GridCellPainter::HelperRect(const QRect& cell) {
   return {cell.right() - kHelperWidth + 1, cell.top(), kHelperWidth, cell.height() - 1};
@@ -50,15 +77,20 @@ void GridCellPainter::paint(QPainter* painter, const QStyleOptionViewItem& optio
   const auto& colours = Colours::Of(option.palette);
   const bool isMarker = grid_->Kind() == GridKind::Editable && index.column() == 0;
   const QString text = index.data(Qt::DisplayRole).toString();
-  const bool isNegative = alignment & Qt::AlignRight && IsNegative(text);
+  const bool isUnreadable = !CanBeRead(index.row() + 1, index.column());
+  const bool isRed = isUnreadable || (alignment & Qt::AlignRight && IsNegative(text));
   painter->setPen(isMarker                               ? colours.accent
-                  : isNegative                           ? colours.red
+                  : isRed                                ? colours.red
                   : option.state & QStyle::State_Enabled ? colours.text
                                                          : colours.muted);
   painter->setFont(option.font);
   const QRect room = isMarker ? option.rect : inner;
   painter->drawText(room, static_cast<int>(alignment),
                     option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+  if (isUnreadable) {
+    const QRect around = option.fontMetrics.boundingRect(room, static_cast<int>(alignment), text);
+    DrawWave(*painter, around.intersected(room));
+  }
   painter->restore();
 }
 

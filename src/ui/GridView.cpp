@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -26,6 +27,7 @@
 #include "ui/GridTableModel.h"
 #include "ui/ListMenu.h"
 #include "ui/Shortcuts.h"
+#include "ui/Theme.h"
 #include "ui/TypeAhead.h"
 #include "ui/Warning.h"
 #include "ui/WindowMemory.h"
@@ -41,6 +43,7 @@ constexpr int kNarrowestText = 60;  // texts are cut to no less
 constexpr int kWidestText = 260;    // no column asks for more
 constexpr int kHeadingPadding = 10;
 constexpr int kSortSign = 12;
+constexpr int kHintMargin = 12;
 
 }  // namespace
 
@@ -48,7 +51,7 @@ GridView::GridView(Grid& grid, QWidget* parent, const WidgetServices& services)
     : QTableView(parent),
       grid_(&grid),
       table_(new GridTableModel(grid)),
-      painter_(new GridCellPainter(grid, this)),
+      painter_(new GridCellPainter(grid, services.convert, this)),
       typed_(new TypeAhead(this)),
       summary_(new QLabel(parent)),
       convert_(services.convert),
@@ -251,7 +254,9 @@ void GridView::MeasureColumns() {
 
 void GridView::ArrangeColumns() {
   const QScopedValueRollback arranging(arranging_, true);
-  const std::vector<int> widths = FitColumns(needs_, viewport()->width(), ColumnForRest());
+  const bool spreads = grid_->Kind() == GridKind::List;
+  const std::vector<int> widths =
+      FitColumns(needs_, viewport()->width(), {.column = ColumnForRest(), .spreads = spreads});
   for (std::size_t at = 0; at < widths.size(); ++at) {
     const int col = static_cast<int>(at);
     setColumnHidden(col, grid_->ColWidth(col) == 0);
@@ -294,6 +299,17 @@ void GridView::resizeEvent(QResizeEvent* event) {
   typed_->Place();
   ReportVisibleRows();
   if (grid_ && !allWaiting_) ArrangeColumns();
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  constexpr int kMostRows = 3;  // a row to begin with is no content
+  if (!grid_ || grid_->EmptyHint().empty() || grid_->Rows() > kMostRows || !grid_->IsEmpty()) return;
+  QPainter painter(viewport());
+  painter.setPen(Colours::Of(palette()).muted);
+  const int rows = (grid_->Rows() - 1) * verticalHeader()->defaultSectionSize();
+  const QRect room = viewport()->rect().adjusted(kHintMargin, rows + kHintMargin, -kHintMargin, -kHintMargin);
+  painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, ToQt(grid_->EmptyHint()));
 }
 
 void GridView::updateGeometries() {

@@ -28,6 +28,7 @@ using layout::Node;
 constexpr int kMargin = 8;
 constexpr int kSpacing = 8;
 constexpr int kBetweenPairs = 14;
+constexpr int kFrame = 11;  // a group's border, padding and margin
 
 /// A group without caption is no more than its content.
 bool IsPlain(const Node& group) {
@@ -70,6 +71,12 @@ int LengthOf(const Node& node) {
 bool SharesRoomByLength(const Node& row) {
   const auto isPlainText = [](const Node& child) { return LengthOf(child) > 0 && child.stretch == 0; };
   return std::all_of(row.children.begin(), row.children.end(), isPlainText);
+}
+
+/// A group with a frame, or a row that has one.
+bool IsFramed(const Node& node) {
+  if (node.kind == Kind::Group) return !IsPlain(node);
+  return node.kind == Kind::Row && std::any_of(node.children.begin(), node.children.end(), IsFramed);
 }
 
 bool HasIcon(const Node& node, std::string_view icon) {
@@ -203,7 +210,14 @@ LayoutBuilder::Piece LayoutBuilder::BuildBox(const Node& node, QWidget& page, Qt
   auto* box = new QBoxLayout(across ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   box->setSpacing(kSpacing);
   const bool sharesRoom = across && SharesRoomByLength(node);
-  for (const auto& child : node.children) AddToBox(*box, child, page, sharesRoom ? LengthOf(child) : child.stretch);
+  const bool hasFrames = !across && std::any_of(node.children.begin(), node.children.end(), IsFramed);
+  for (const auto& child : node.children) {
+    AddToBox(*box, child, page, sharesRoom ? LengthOf(child) : child.stretch);
+    QLayout* inner = box->count() > 0 ? box->itemAt(box->count() - 1)->layout() : nullptr;
+    const bool isLine = child.kind == Kind::Fields || child.kind == Kind::Row;
+    // Labels outside of frames are in line with those inside.
+    if (hasFrames && inner && isLine && !IsFramed(child)) inner->setContentsMargins(kFrame, 0, kFrame, 0);
+  }
   if (!(box->expandingDirections() & orientation)) box->addStretch();
   return {nullptr, box};
 }

@@ -73,9 +73,10 @@ void IgnoreStrayWheel(QWidget& widget) {
 
 void RegisterStandardWidgets(WidgetFactory& factory, const WidgetServices& services) {
   factory.Register<Label>(MakeLabel);
-  factory.Register<TextBox>(MakeTextBox);
+  factory.Register<TextBox>(
+      [services](TextBox& box, QWidget* parent) { return HelpWithEntry(*MakeTextBox(box, parent), box, services); });
   factory.Register<MaskedBox>(
-      [&clock = services.clock](MaskedBox& box, QWidget* parent) { return MakeMaskedBox(box, parent, clock); });
+      [services](MaskedBox& box, QWidget* parent) { return MakeMaskedBox(box, parent, services); });
   factory.Register<Button>(MakeButton);
   factory.Register<OptionButton>(MakeOptionButton);
   factory.Register<ComboBox>(MakeComboBox);

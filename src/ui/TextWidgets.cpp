@@ -7,6 +7,7 @@
 #include <QStyle>
 
 #include "core/MaskText.h"
+#include "core/Trap.h"
 #include "ui/Apostrophe.h"
 #include "ui/Convert.h"
 #include "ui/EventFilter.h"
@@ -14,6 +15,8 @@
 
 namespace norvane::ui {
 namespace {
+
+constexpr int kDigits = 6;  // of a masked date
 
 /// A slash typed after a lone digit gives it a leading zero and goes on to the next place.
 void CloseMaskPlace(MaskedBox& box, QLineEdit& widget) {
@@ -65,6 +68,16 @@ bool UseListKey(const QKeyEvent& event, TextBox& box) {
   }
 }
 
+bool CanBeRead(const MaskedBox& box, const Conversions& convert) {
+  if (ToQt(box.Text()).count('_') == kDigits) return true;
+  bool isDate = false;
+  IgnoringErrors([&] {
+    convert.ToDateFromMask(box.Text());
+    isDate = true;
+  });
+  return isDate;
+}
+
 }  // namespace
 
 Binding* MakeLabel(Label& label, QWidget* parent) {
@@ -73,6 +86,7 @@ Binding* MakeLabel(Label& label, QWidget* parent) {
   return new Binding(label, *widget, [&label, widget](Aspect) {
     widget->setText(ToQt(label.Caption()));
     widget->setProperty("red", label.ForeColor() == Colour::Red);
+    widget->setProperty("muted", label.ForeColor() == Colour::Grey);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
   });
@@ -96,22 +110,24 @@ Binding* MakeTextBox(TextBox& box, QWidget* parent) {
   return binding;
 }
 
-Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent, const Clock& clock) {
+Binding* MakeMaskedBox(MaskedBox& box, QWidget* parent, const WidgetServices& services) {
   auto* widget = new QLineEdit(parent);
   widget->setInputMask("99/99/99;_");
   widget->setFixedWidth(WidthOf(*widget, 8));
   auto* binding = new Binding(box, *widget, [&box, widget](Aspect) {
     if (widget->displayText() != ToQt(box.Text())) widget->setText(ToQt(box.Text()));
+    MarkUnreadable(*widget, false);
   });
   QObject::connect(widget, &QLineEdit::textEdited, binding,
                    [&box, widget] { box.UserType(FromQt(widget->displayText())); });
-  new EventFilter(*widget, [&box, &clock, widget, bound = QPointer<Binding>(binding)](QEvent& event) {
+  new EventFilter(*widget, [&box, services, widget, bound = QPointer<Binding>(binding)](QEvent& event) {
+    if (event.type() == QEvent::FocusOut && bound) MarkUnreadable(*widget, !CanBeRead(box, services.convert));
     if (event.type() == QEvent::FocusIn) {
       QMetaObject::invokeMethod(
           widget, [widget] { widget->home(false); }, Qt::QueuedConnection);
     }
     if (event.type() != QEvent::KeyPress || !bound) return false;
-    return UseDateKey(static_cast<QKeyEvent&>(event).text(), box, *widget, clock);
+    return UseDateKey(static_cast<QKeyEvent&>(event).text(), box, *widget, services.clock);
   });
   return binding;
 }

@@ -85,7 +85,9 @@ QFont FontOf(const QFont& system) {
   if (family.isEmpty() || family.startsWith("Sans") || family.startsWith("DejaVu") || family == "Helvetica") {
     font.setFamilies({"Inter", "Noto Sans", "Open Sans", "Liberation Sans", "Arial"});
   }
-  font.setPointSizeF(std::clamp(font.pointSizeF(), 10.0, 12.0));
+  // A larger one is the choice of a user who needs it.
+  constexpr double kSmallest = 10;
+  font.setPointSizeF(std::max(font.pointSizeF(), kSmallest));
   return font;
 }
 

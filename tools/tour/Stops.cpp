@@ -14,6 +14,7 @@ const Step kRegistry{Press, "Customer", "btnPayments"};
 const Step kInventory{Press, "Customer", "btnInventory"};
 const Step kProfile{Press, "Customer", "btnCustInfo"};
 const Step kInvoice{DoubleClick, "CustInvoices", "InvoiceList", 1, 2};
+const Step kNoDate{Edit, "Receipts", "PaymentList", 2, 3, "13/32/2025"};
 const Step kSetup{Choose, "Customer", "mnuSetup"};
 const Step kOrdering{Choose, "Customer", "mnuOrdering"};
 
@@ -27,6 +28,7 @@ const std::vector<Stop>& Stops() {
       {"clients-missed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "zq"}}},
       {"question", "Customer", {kClient, {Choose, "Customer", "mnuDelete"}}, Stop::Shot::Box},
       {"find", "frmFind", {{Choose, "Customer", "mnuFind"}, {Type, "frmFind", "txtFind", 1, 1, "oak"}}},
+      {"tool-tip", "Customer", {kClient, {Hover, "Customer", "btnNewInvoice"}}},
       {"help", "Customer", {{Choose, "Customer", "mnuContents"}}, Stop::Shot::Help},
       {"empty", "Customer", {}, Stop::Shot::Screen, true},
       {"splash", "intro", {{Show, "intro"}}},
@@ -49,6 +51,8 @@ const std::vector<Stop>& Stops() {
       {"payments-edit",
        "Receipts",
        {kClient, kPayments, {Edit, "Receipts", "PaymentList", 2, 8, "Paid at the counter, second part"}}},
+      {"payments-unreadable", "Receipts", {kClient, kPayments, kNoDate, {Click, "Receipts", "PaymentList", 2, 8}}},
+      {"error", "Receipts", {kClient, kPayments, kNoDate, {Click, "Receipts", "PaymentList", 1, 8}}, Stop::Shot::Box},
       {"calendar", "PaymentDate", {kClient, kPayments, {CellButton, "Receipts", "PaymentList", 1, 3}}},
       {"client-picker", "CustSearch", {kClient, kPayments, {CellButton, "Receipts", "PaymentList", 1, 6}}},
 

@@ -16,6 +16,7 @@ struct Step {
     Tab,          ///< a tab, from 0
     Edit,         ///< types the text into a cell of a grid
     Type,         ///< types the text where the focus is
+    Hover,        ///< rests on a control until its tool tip shows
     Open,         ///< the menu of an entry, the list of a drop-down, the calendar of a date
     Show,         ///< no control: the screen comes up by itself
   };

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolButton>
+#include <QToolTip>
 
 #include "app/Composition.h"
 #include "core/FileNames.h"
@@ -44,6 +45,10 @@ void OpenPopup(QWidget& window, const QString& name) {
   if (menu == nullptr) throw std::runtime_error("there is no " + name.toStdString() + " to open");
   auto* bar = window.findChild<QMenuBar*>();
   menu->popup(bar->mapToGlobal(bar->actionGeometry(menu->menuAction()).bottomLeft()));
+}
+
+void ShowTip(QWidget& widget) {
+  QToolTip::showText(widget.mapToGlobal(widget.rect().center()), widget.toolTip(), &widget);
 }
 
 void TypeInto(QWidget& widget, char letter) {
@@ -89,12 +94,13 @@ std::string Visit::Make(std::function<void(Form&, QWidget&)> look) {
 
 void Visit::Do(const Step& step) {
   using enum Step::Do;
-  if (step.what != Open && step.what != Type) return DoStep(program_, step);
+  if (step.what != Open && step.what != Type && step.what != Hover) return DoStep(program_, step);
   Form& form = program_.screens.Touch(step.screen);
   ui::FormWindow& window = *desktop_.WindowOf(form);
   desktop_.DoEvents();
-  if (step.what == Open)
-    return OpenPopup(window, QString::fromUtf8(step.control.data(), static_cast<int>(step.control.size())));
+  const QString name = QString::fromUtf8(step.control.data(), static_cast<int>(step.control.size()));
+  if (step.what == Hover) return ShowTip(*window.findChild<QWidget*>(name));
+  if (step.what == Open) return OpenPopup(window, name);
   for (const char letter : step.text) TypeInto(*window.focusWidget(), letter);
 }
 

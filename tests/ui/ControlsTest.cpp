@@ -2,6 +2,7 @@
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -30,6 +31,32 @@ TEST_F(Controls, ATextBoxTellsWhatIsTypedAndShowsWhatCodeSets) {
   EXPECT_EQ(Of<QLineEdit>(Demo().txtFirst).text(), "Bea");
   EXPECT_EQ(Log(), "txtFirst_Change");
   EXPECT_EQ(Of<QLineEdit>(Demo().txtAmount).alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+}
+
+TEST_F(Controls, ADateThatIsNoneIsMarkedWhenItsBoxIsLeft) {
+  const auto isMarked = [&] { return Of(Demo().txtDue).property("unreadable").toBool(); };
+  Click(Demo().txtDue);
+  Type("2/30/2026");
+  EXPECT_FALSE(isMarked()) << "it may still grow";
+  Click(Demo().txtFirst);
+  Settle();
+  EXPECT_TRUE(isMarked());
+  Click(Demo().txtDue);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Type("t");
+  EXPECT_EQ(Demo().txtDue.Text(), program.convert.ToText(desktop.Today())) << "today";
+  EXPECT_FALSE(isMarked());
+}
+
+TEST_F(Controls, ASuggestionPickedIsTyped) {
+  Demo().txtFirst.SetSuggestions({"Net 10", "Net 30"});
+  Click(Demo().txtFirst);
+  Type("n");
+  auto* list = Of<QLineEdit>(Demo().txtFirst).completer()->popup();
+  ASSERT_TRUE(list->isVisible());
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Return);
+  EXPECT_EQ(Demo().txtFirst.Text(), "Net 10");
 }
 
 TEST_F(Controls, AMaskedBoxKeepsItsSlashes) {

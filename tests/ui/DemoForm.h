@@ -16,7 +16,8 @@ class DemoForm : public Form {
         layout::Strip({btnSave, btnDelete, btnPrint, layout::Space(), lblBalance, btnExit}),
         layout::Row({layout::Group(
             "Address", layout::Fields({layout::Field("&First:", txtFirst), layout::Field("&Last:", txtLast),
-                                       layout::Field("&Amount:", txtAmount), layout::Field("&Terms:", cmbTerms)},
+                                       layout::Field("&Amount:", txtAmount), layout::Field("&Terms:", cmbTerms),
+                                       layout::Field("Due:", txtDue)},
                                       2))}),
         layout::Row({layout::Field("&Since:", txtSince), DTSince, cmbWhich, OptClient, OptBilling, btnOk}),
         layout::Stretch(Rows),
@@ -46,6 +47,7 @@ class DemoForm : public Form {
   TextBox txtFirst{*this, "txtFirst", {.characters = 14}};
   TextBox txtLast{*this, "txtLast", {.characters = 14}};
   TextBox txtAmount{*this, "txtAmount", {.characters = 10, .rightAligned = true}};
+  TextBox txtDue{*this, "txtDue", {.characters = 12, .content = TextContent::Date}};
   ComboBox cmbTerms{*this, "cmbTerms"};
   MaskedBox txtSince{*this, "txtSince"};
   DatePicker DTSince{*this, "DTSince"};

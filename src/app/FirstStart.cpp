@@ -23,6 +23,10 @@ FirstStart AskForFirstStart() {
   QPushButton* sample = box.addButton("&Open the sample business", QMessageBox::ActionRole);
   box.setEscapeButton(box.addButton("&Quit", QMessageBox::RejectRole));
   box.setDefaultButton(empty);
+  for (QAbstractButton* button : box.buttons()) {
+    button->ensurePolished();
+    button->setMinimumWidth(button->sizeHint().width());
+  }
   box.exec();
   if (box.clickedButton() == empty) return FirstStart::Empty;
   return box.clickedButton() == sample ? FirstStart::Sample : FirstStart::Quit;

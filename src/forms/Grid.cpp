@@ -104,11 +104,8 @@ std::string Grid::Cell(int row, int col) const {
 }
 
 std::string Grid::DisplayText(int row, int col) const {
-  std::string content = Cell(row, col);
-  const GridColumn& column = model_->Column(col);
-  if (row == 0 || column.helper != CellHelper::KeyedDropDown) return content;
-  const int item = column.ItemOf(content);
-  return item < 0 ? content : column.items[static_cast<std::size_t>(item)];
+  const int item = row > 0 && model_->table.HoldsKey(row, col) ? model_->ItemAt(row, col) : -1;
+  return item < 0 ? Cell(row, col) : model_->Column(col).items[static_cast<std::size_t>(item)];
 }
 
 bool Grid::IsEmpty() const {

@@ -79,7 +79,8 @@ class Grid : public Control {
   void SetColDataType(int col, ColumnType type);
   ColumnType ColDataType(int col) const;
   ColumnAlignment Alignment(int col) const;
-  /// "..." gives a button, "a|b" a drop-down, "#3;a|#4;b" a keyed drop-down, "" takes it away.
+  /// "..." gives a button, "a|b" a drop-down, "#3;a|#4;b" a keyed drop-down, "" takes it away. In a keyed one a cell
+  /// holds the key of the item that the user has chosen; what code writes is a text, even if it looks like a key.
   void SetColComboList(int col, std::string_view list);
   CellHelper Helper(int col) const;
   /// The texts of a column's drop-down.
@@ -212,6 +213,7 @@ class Grid : public Control {
   bool AskBeforeEdit();
   void ShowEdit();
   void ChooseItem(int index);
+  void SetKey(int row, int col, std::string_view key);
   void SearchItem(std::string_view letters);
   bool KeyInEdit(Key key, KeyModifiers modifiers);
   bool KeyOutsideEdit(Key key, KeyModifiers modifiers);

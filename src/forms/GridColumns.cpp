@@ -59,7 +59,7 @@ void SetList(GridColumn& column, std::string_view list) {
 }  // namespace
 
 int GridColumn::ItemOf(std::string_view content) const {
-  const auto& contents = helper == CellHelper::KeyedDropDown ? keys : items;
+  const auto& contents = IsKeyed() ? keys : items;
   const auto found = std::find(contents.begin(), contents.end(), content);
   return found == contents.end() ? -1 : static_cast<int>(found - contents.begin());
 }
@@ -180,11 +180,9 @@ void Grid::SetColComboList(int col, std::string_view list) {
 
 /// Keys mean nothing under another list: the cells take the texts that they showed.
 void Grid::ShowTextsForKeys(int col) {
-  const GridColumn& column = model_->Column(col);
-  if (column.helper != CellHelper::KeyedDropDown) return;
+  if (!model_->Column(col).IsKeyed()) return;
   for (int row = 1; row < Rows(); ++row) {
-    const int item = column.ItemOf(model_->table.Cell(row, col));
-    if (item >= 0) SetCell(row, col, column.items[static_cast<std::size_t>(item)]);
+    if (model_->table.HoldsKey(row, col)) SetCell(row, col, DisplayText(row, col));
   }
 }
 

@@ -50,7 +50,7 @@ bool Grid::BeginEdit(BeginBy by) {
   const GridColumn& column = model_->Column(Col());
   GridEdit edit{.by = by, .text = DisplayText(Row(), Col()), .letters = ""};
   if (column.HasList()) {
-    edit.item = column.ItemOf(Cell(Row(), Col()));
+    edit.item = model_->ItemAt(Row(), Col());
   } else if (by == BeginBy::Typing) {
     edit.text.clear();
   }
@@ -124,11 +124,20 @@ void Grid::CommitEdit() {
   const int row = Row();
   const int col = Col();
   const GridColumn& column = model_->Column(col);
+  const bool holdsKey = model_->table.HoldsKey(row, col);
+  const bool takesKey = column.IsKeyed() && edit.item >= 0;
   const std::string before = Cell(row, col);
   const std::string content = !column.HasList() ? edit.text : edit.item < 0 ? before : column.ContentOf(edit.item);
-  if (content != before) SetCell(row, col, content);
+  const bool changes = content != before || takesKey != holdsKey;
+  if (changes && takesKey) SetKey(row, col, content);
+  if (changes && !takesKey) SetCell(row, col, content);
   if (view) view->EditChanged();
-  if (content != before) AfterEdit.Raise(row, col);
+  if (changes) AfterEdit.Raise(row, col);
+}
+
+void Grid::SetKey(int row, int col, std::string_view key) {
+  model_->table.SetKey(row, col, key);
+  if (view) view->CellChanged(row, col);
 }
 
 void Grid::CancelEdit() {

@@ -21,11 +21,9 @@ struct GridColumn {
   std::vector<std::string> keys;   ///< their keys, if it is a keyed one
 
   bool HasList() const { return helper == CellHelper::DropDown || helper == CellHelper::KeyedDropDown; }
+  bool IsKeyed() const { return helper == CellHelper::KeyedDropDown; }
   /// What a cell holds when the item is chosen.
-  const std::string& ContentOf(int item) const {
-    const auto& contents = helper == CellHelper::KeyedDropDown ? keys : items;
-    return contents[static_cast<std::size_t>(item)];
-  }
+  const std::string& ContentOf(int item) const { return (IsKeyed() ? keys : items)[static_cast<std::size_t>(item)]; }
   /// The item of a content, -1 for none.
   int ItemOf(std::string_view content) const;
 };
@@ -56,6 +54,12 @@ struct Grid::Model {
   bool marking = false;         ///< the cursor moves without an end to the marks
 
   GridColumn& Column(int at) { return columns[static_cast<std::size_t>(at)]; }
+  /// The item of its column's list that a cell holds, -1 for none: in a keyed list one that was chosen, since a text may
+  /// look like a key.
+  int ItemAt(int atRow, int atCol) const {
+    const GridColumn& column = columns[static_cast<std::size_t>(atCol)];
+    return column.IsKeyed() && !table.HoldsKey(atRow, atCol) ? -1 : column.ItemOf(table.Cell(atRow, atCol));
+  }
   int Rows() const { return table.Rows(); }
   int Cols() const { return static_cast<int>(columns.size()); }
   int LastRow() const { return Rows() - 1; }

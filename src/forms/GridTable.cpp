@@ -7,12 +7,16 @@ namespace norvane {
 namespace {
 
 constexpr char kSeparator = '\t';
+constexpr char kKeySign = '\x1f';
+
+bool IsReserved(char c) {
+  return c == kSeparator || c == '\n' || c == '\r' || c == kKeySign;
+}
 
 void AppendCell(std::string& row, std::string_view text) {
   const auto begin = static_cast<std::ptrdiff_t>(row.size());
   row += text;
-  std::replace_if(
-      row.begin() + begin, row.end(), [](char c) { return c == kSeparator || c == '\n' || c == '\r'; }, ' ');
+  std::replace_if(row.begin() + begin, row.end(), IsReserved, ' ');
 }
 
 /// Where the cell begins in its row, npos if the row is too short for it.
@@ -63,6 +67,16 @@ void GridTable::Reorder(const std::vector<int>& order) {
 }
 
 std::string_view GridTable::Cell(int row, int col) const {
+  const std::string_view content = Raw(row, col);
+  return content.substr(HoldsKey(row, col) ? 1 : 0);
+}
+
+bool GridTable::HoldsKey(int row, int col) const {
+  const std::string_view content = Raw(row, col);
+  return !content.empty() && content.front() == kKeySign;
+}
+
+std::string_view GridTable::Raw(int row, int col) const {
   const std::string_view cells = rows_[static_cast<std::size_t>(row)];
   const auto begin = CellBegin(cells, col);
   if (begin == std::string_view::npos) return {};
@@ -72,6 +86,14 @@ std::string_view GridTable::Cell(int row, int col) const {
 void GridTable::SetCell(int row, int col, std::string_view text) {
   std::string content;
   AppendCell(content, text);
+  Replace(row, col, content);
+}
+
+void GridTable::SetKey(int row, int col, std::string_view key) {
+  Replace(row, col, kKeySign + std::string(key));
+}
+
+void GridTable::Replace(int row, int col, std::string_view content) {
   auto& cells = rows_[static_cast<std::size_t>(row)];
   auto begin = CellBegin(cells, col);
   if (begin == std::string::npos) {

@@ -189,7 +189,7 @@ bool GridCellEditor::UseKey(const GridKeyPress& press) {
 std::optional<QString> GridCellEditor::ContentByKey(const QKeyEvent& event, const QString& text) const {
   const bool holdsControl = event.modifiers().testFlag(Qt::ControlModifier);
   if (holdsControl && event.key() == Qt::Key_Apostrophe && grid_->Row() > 1) {
-    return ToQt(grid_->Cell(grid_->Row() - 1, grid_->Col()));
+    return ToQt(grid_->DisplayText(grid_->Row() - 1, grid_->Col()));
   }
   if (holdsControl || Type() != ColumnType::Date) return std::nullopt;
   return entry_.DateByKey(event.text(), text);

@@ -162,9 +162,16 @@ TEST_F(GridEditTest, AKeyedDropDownHoldsTheKey) {
   EXPECT_EQ(g.EditText(), "Nut") << "what is no key stays unless an item is chosen";
   g.UserKey(Key::Enter);
   EXPECT_EQ(g.Cell(2, 2), "Nut");
-  g.SetCell(2, 2, "Cash");
+  g.SetCell(2, 2, "3");
+  EXPECT_EQ(g.DisplayText(2, 2), "3") << "a text that looks like a key";
+  Taken();
   g.PickItem(0);
-  EXPECT_EQ(g.Cell(2, 2), "3");
+  EXPECT_THAT(Taken(), ElementsAre("BeforeEdit 2,2", "AfterEdit 2,2"));
+  EXPECT_EQ(g.Cell(2, 2) + g.DisplayText(2, 2), "3Cash");
+
+  g.SetCell(3, 2, "5");
+  g.SetColComboList(2, "#4;Card|#5;Check");
+  EXPECT_EQ(g.Cell(1, 2) + g.Cell(2, 2) + g.DisplayText(3, 2), "CheckCash5") << "keys of the old list take their texts";
 }
 
 TEST_F(GridEditTest, LettersSearchADropDown) {

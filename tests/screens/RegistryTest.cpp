@@ -202,6 +202,8 @@ TEST_F(RegistryTest, ACategoryIsAddedOnTheWay) {
   Registry().btnPaymentCategories.Press();
   EXPECT_THAT(List().DropDownItems(GL::kCategory), Contains("Bank fees"));
   EXPECT_EQ(List().DisplayText(2, GL::kCategory), "Utilities") << "keys have moved, the choice hasn't";
+  EnterAndGoDown(List(), 1, GL::kNum, "2");
+  EXPECT_THAT(Entries(), ElementsAre(HasSubstr("|2|Acme|5|"))) << "a stored text that looks like a key";
 
   database.Execute("DELETE FROM tb_ExpenseTypes WHERE Type <> 'Rent'");
   desktop.WhenModal<ExpenseTypes>([&](ExpenseTypes& types) {

@@ -1,12 +1,15 @@
 #include "RegistryOffice.h"
 #include "screens/registry/VendorSearch.h"
 #include "screens/sales/Receipts.h"
+#include "support/Machines.h"
 
 namespace norvane::test {
 namespace {
 
 class VendorsTest : public RegistryOffice {
  protected:
+  explicit VendorsTest(const RegionalSettings& settings = {}) : RegistryOffice(settings) {}
+
   void Open() {
     Start();
     Main().btnVendors.Press();
@@ -69,6 +72,19 @@ TEST_F(VendorsTest, ChangesAreAskedForOnEveryWayToAnotherVendorAndOut) {
   desktop.Expect("Save Changes to ?", Answer::No);
   Screen().UserClose();
   EXPECT_FALSE(IsOpen("Vendors"));
+}
+
+class VendorsAbroad : public VendorsTest {
+ protected:
+  VendorsAbroad() : VendorsTest(Germany()) {}
+};
+
+TEST_F(VendorsAbroad, TheDiscountKeepsItsDecimals) {
+  Open();
+  EXPECT_EQ(Screen().txtDiscount.Text(), "2,5");
+  Screen().txtDiscount.UserType("7,25 %");
+  Save();
+  EXPECT_THAT(Stored(), ElementsAre("1001|Acme|7.25", "1002|Bolt|2.5"));
 }
 
 TEST_F(VendorsTest, ARefusedSaveLosesTheVendorButNotWhatIsOnTheScreen) {

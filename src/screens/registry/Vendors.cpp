@@ -171,7 +171,7 @@ void Vendors::SaveVendor() {
   const Object<Vendor> vendor = globals.oVendor;
   vendor->VendorNum = ValLong(lblVendorNum.Caption());
   for (const Bound& bound : kBound) (*vendor).*bound.property = (this->*bound.box).Text();
-  vendor->Discount = Val(txtDiscount.Text());
+  vendor->Discount = convert.LeadingNumber(txtDiscount.Text());
   vendor->OpenCn();
   stored_ = vendor->SaveVendorAccess(vendor->VendorNum);
   if (stored_) companyRead_ = vendor->Company;

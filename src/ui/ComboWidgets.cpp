@@ -9,10 +9,12 @@
 namespace norvane::ui {
 namespace {
 
+/// Items come one by one and go all at once: only those that are missing are added.
 void FillCombo(QComboBox& widget, const ComboBox& combo) {
   const QSignalBlocker quiet(&widget);
-  widget.clear();
-  for (const auto& item : combo.Items()) widget.addItem(ToQt(item));
+  const std::vector<std::string>& items = combo.Items();
+  if (items.empty()) widget.clear();
+  for (auto i = static_cast<std::size_t>(widget.count()); i < items.size(); ++i) widget.addItem(ToQt(items[i]));
 }
 
 void ShowComboText(QComboBox& widget, const ComboBox& combo) {

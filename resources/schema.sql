@@ -153,6 +153,8 @@ CREATE TABLE tb_GL (
   Deposit CURRENCY,
   Notes TEXT COLLATE NOCASE
 );
+-- The balances of the whole ledger are read from this index alone.
+CREATE INDEX tb_GL_Cleared ON tb_GL (Cleared, Payment, Deposit);
 
 CREATE TABLE tb_Company (
   Name TEXT COLLATE NOCASE,

@@ -3,10 +3,10 @@
 
 #include <benchmark/benchmark.h>
 #include <memory>
-#include <sqlite3.h>
 #include <string>
 #include <vector>
 
+#include "ByHand.h"
 #include "Measuring.h"
 #include "core/Clock.h"
 #include "core/Conversions.h"
@@ -69,33 +69,6 @@ struct Books {
   Workspace workspace{globals, engine, reporter, clock, convert, database.Folder()};
 };
 
-/// A bare connection and its prepared statements.
-class ByHand {
- public:
-  explicit ByHand(const test::Database& database) {
-    sqlite3* connection = nullptr;
-    sqlite3_open_v2(database.File().c_str(), &connection, SQLITE_OPEN_READWRITE, nullptr);
-    connection_.reset(connection);
-  }
-
-  using Statement = std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)>;
-  Statement Prepare(const std::string& sql) const {
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(connection_.get(), sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
-      throw std::runtime_error(sqlite3_errmsg(connection_.get()));
-    }
-    return {statement, &sqlite3_finalize};
-  }
-
- private:
-  std::unique_ptr<sqlite3, decltype(&sqlite3_close)> connection_{nullptr, &sqlite3_close};
-};
-
-std::string CellText(sqlite3_stmt* row, int column) {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-  return text ? text : "";
-}
-
 constexpr const char* kInvoices =
     "SELECT tb_Client.CustNum, tb_Client.Lname, tb_Client.Fname, tb_Invoice.Date, tb_Invoice.InvoiceNum, "
     "tb_Invoice.Discount, tb_Invoice.ShippingCharge, tb_Invoice.Interest, tb_Invoice.Tax, Sum(tb_trans.amount), "
@@ -105,37 +78,29 @@ constexpr const char* kInvoices =
     "tb_Invoice.Interest, tb_Invoice.Tax, tb_Invoice.Description ";
 
 void BalanceByHand(const test::Database& database, int custNum, int day) {
-  const ByHand connection(database);
-  const auto list = connection.Prepare(std::string(kInvoices) +
-                                       "HAVING tb_Client.CustNum = ?1 AND tb_Invoice.Date > 29587 "
-                                       "ORDER BY tb_Invoice.InvoiceNum DESC");
-  const auto sum = connection.Prepare("select sum(amount) from tb_trans where InvoiceNum = ?1");
-  const auto header =
-      connection.Prepare("select discount, tax, shippingcharge, interest from tb_Invoice where InvoiceNum = ?1");
-  const auto paid = connection.Prepare(
-      "SELECT tb_Client.CustNum, Sum(tb_Receive.Amount) FROM tb_Receive INNER JOIN tb_Client ON tb_Receive.CustNum = "
-      "tb_Client.CustNum WHERE tb_Receive.Date <= ?1 GROUP BY tb_Client.CustNum HAVING tb_Client.CustNum = ?2");
+  bench::ByHand connection(database.File());
   std::vector<std::pair<int, int>> invoices;
-  sqlite3_bind_int(list.get(), 1, custNum);
-  while (sqlite3_step(list.get()) == SQLITE_ROW) {
-    invoices.emplace_back(sqlite3_column_int(list.get(), 3), sqlite3_column_int(list.get(), 4));
-  }
+  connection.Each(
+      std::string(kInvoices) +
+          "HAVING tb_Client.CustNum = ?1 AND tb_Invoice.Date > 29587 ORDER BY tb_Invoice.InvoiceNum DESC",
+      {custNum},
+      [&](sqlite3_stmt* row) { invoices.emplace_back(sqlite3_column_int(row, 3), sqlite3_column_int(row, 4)); });
   double balance = 0;
   for (const auto& [date, number] : invoices) {
     if (date > day) continue;
-    sqlite3_bind_int(sum.get(), 1, number);
-    sqlite3_step(sum.get());
-    const double lines = sqlite3_column_double(sum.get(), 0);
-    sqlite3_reset(sum.get());
-    sqlite3_bind_int(header.get(), 1, number);
-    sqlite3_step(header.get());
-    balance += lines - sqlite3_column_double(header.get(), 0) / 100 * lines;
-    for (int column = 1; column < 4; ++column) balance += sqlite3_column_double(header.get(), column);
-    sqlite3_reset(header.get());
+    double lines = 0;
+    connection.Each("select sum(amount) from tb_trans where InvoiceNum = ?1", {number},
+                    [&](sqlite3_stmt* row) { lines = sqlite3_column_double(row, 0); });
+    connection.Each("select discount, tax, shippingcharge, interest from tb_Invoice where InvoiceNum = ?1", {number},
+                    [&](sqlite3_stmt* row) {
+                      balance += lines - sqlite3_column_double(row, 0) / 100 * lines;
+                      for (int column = 1; column < 4; ++column) balance += sqlite3_column_double(row, column);
+                    });
   }
-  sqlite3_bind_int(paid.get(), 1, day);
-  sqlite3_bind_int(paid.get(), 2, custNum);
-  if (sqlite3_step(paid.get()) == SQLITE_ROW) balance -= sqlite3_column_double(paid.get(), 1);
+  connection.Each(
+      "SELECT tb_Client.CustNum, Sum(tb_Receive.Amount) FROM tb_Receive INNER JOIN tb_Client ON tb_Receive.CustNum = "
+      "tb_Client.CustNum WHERE tb_Receive.Date <= ?1 GROUP BY tb_Client.CustNum HAVING tb_Client.CustNum = ?2",
+      {day, custNum}, [&](sqlite3_stmt* row) { balance -= sqlite3_column_double(row, 1); });
   benchmark::DoNotOptimize(balance);
 }
 
@@ -159,15 +124,9 @@ void ClientBalsOver100000Invoices(benchmark::State& state) {
   bench::Compare(
       state, [&] { benchmark::DoNotOptimize(client->ClientBals()->RecordCount()); },
       [&] {
-        const ByHand connection(books.database);
-        const auto query = connection.Prepare(
-            "SELECT ClientBals.CustNum, ClientBals.Fullname, ClientBals.Balance FROM ClientBals "
-            "ORDER BY ClientBals.Fullname");
-        std::vector<std::string> cells;
-        while (sqlite3_step(query.get()) == SQLITE_ROW) {
-          for (int column = 0; column < 3; ++column) cells.push_back(CellText(query.get(), column));
-        }
-        benchmark::DoNotOptimize(cells);
+        benchmark::DoNotOptimize(bench::ByHand(books.database.File())
+                                     .Cells("SELECT ClientBals.CustNum, ClientBals.Fullname, ClientBals.Balance FROM "
+                                            "ClientBals ORDER BY ClientBals.Fullname"));
       },
       1.2);
 }
@@ -188,16 +147,16 @@ void GetAllInvoicesOver50000(benchmark::State& state) {
   bench::Compare(
       state, [&] { benchmark::DoNotOptimize(invoice->GetAllInvoices(Date(30'000))->RecordCount()); },
       [&] {
-        const ByHand connection(books.database);
-        const auto query = connection.Prepare(std::string(kInvoices) +
-                                              "HAVING tb_Invoice.Date > 30000 ORDER BY tb_Invoice.InvoiceNum DESC");
+        bench::ByHand connection(books.database.File());
         std::vector<InvoiceRow> rows;
-        for (sqlite3_stmt* row = query.get(); sqlite3_step(row) == SQLITE_ROW;) {
-          rows.push_back({sqlite3_column_int(row, 0), CellText(row, 1), CellText(row, 2), sqlite3_column_int(row, 3),
-                          sqlite3_column_int(row, 4), sqlite3_column_double(row, 5), sqlite3_column_int64(row, 6),
-                          sqlite3_column_int64(row, 7), sqlite3_column_int64(row, 8), sqlite3_column_int64(row, 9),
-                          CellText(row, 10)});
-        }
+        const auto take = [&](sqlite3_stmt* row) {
+          rows.push_back({sqlite3_column_int(row, 0), bench::ByHand::Text(row, 1), bench::ByHand::Text(row, 2),
+                          sqlite3_column_int(row, 3), sqlite3_column_int(row, 4), sqlite3_column_double(row, 5),
+                          sqlite3_column_int64(row, 6), sqlite3_column_int64(row, 7), sqlite3_column_int64(row, 8),
+                          sqlite3_column_int64(row, 9), bench::ByHand::Text(row, 10)});
+        };
+        connection.Each(
+            std::string(kInvoices) + "HAVING tb_Invoice.Date > 30000 ORDER BY tb_Invoice.InvoiceNum DESC", {}, take);
         benchmark::DoNotOptimize(rows);
       },
       1.6);

@@ -2,21 +2,17 @@
 
 #include <benchmark/benchmark.h>
 #include <memory>
-#include <sqlite3.h>
 #include <string>
 #include <vector>
 
-#include "EmptyDesktop.h"
+#include "BarePages.h"
+#include "ByHand.h"
 #include "Measuring.h"
-#include "data/Client.h"
-#include "data/Invoice.h"
-#include "data/cSetup.h"
-#include "forms/Program.h"
+#include "Offscreen.h"
+#include "ReportProgram.h"
 #include "pages/Layout.h"
 #include "reports/Billing.h"
 #include "reports/PrtBilling.h"
-#include "reports/RegisterReports.h"
-#include "support/Database.h"
 #include "support/PinnedFontMetrics.h"
 
 namespace norvane {
@@ -26,39 +22,22 @@ constexpr int kClients = 1'000;
 constexpr int kToday = 46'348;
 
 /// The program over 1,000 clients with 50,000 invoices of three lines in four years, and 20,000 payments.
-struct Office {
+struct Office : bench::ReportProgram {
   Office() {
-    const auto count = [](int rows) {
-      return "with recursive n(i) as (select 1 union all select i + 1 from n where i < " + std::to_string(rows) + ") ";
-    };
     database.Execute(
-        "insert into tb_Company (Name, Statetaxrate) values ('Norvane', 5);" + count(kClients) +
+        "insert into tb_Company (Name, Statetaxrate) values ('Norvane', 5);" + Count(kClients) +
         "insert into tb_Client (CustNum, Lname, Fname, BillLname, BillFname, Discount) select i, 'Lastname' || i, "
         "'First' || i, 'Lastname' || i, 'First' || i, 0 from n;" +
-        count(50'000) +
+        Count(50'000) +
         "insert into tb_Invoice (InvoiceNum, CustNum, Date, Description, Discount, Tax, ShippingCharge, Shippingdate, "
         "Interest) select i, i % 1000 + 1, 46348 - i * 7 % 1461, 'Goods and services ' || i, i % 7 * 1.5, 10000, 5000, "
         "40000, 0 from n;" +
-        count(150'000) +
+        Count(150'000) +
         "insert into tb_trans (TransNum, InvoiceNum, ItemNum, Qty, Amount, Notes) select i, i % 50000 + 1, 1, 2, "
         "i * 17 % 200 * 10000, 'Line' from n;" +
-        count(20'000) +
+        Count(20'000) +
         "insert into tb_Receive (TransNum, CustNum, Date, Amount) select i, i % 1000 + 1, 46348 - i * 11 % 1461, "
         "i * 13 % 1000 * 10000 from n");
-    RegisterReports(program);
-    program.screens.AddFactory(screen::kLoadingBilling, [](Program& host) {
-      return std::make_shared<Form>(host, screen::kLoadingBilling, FormStyle{.notice = true});
-    });
-    program.globals.oClient = Made<Client>();
-    program.globals.oInvoice = Made<Invoice>();
-    program.globals.oSetup = Made<cSetup>();
-  }
-
-  template <class Data>
-  std::shared_ptr<Data> Made() {
-    auto object = std::make_shared<Data>(program.workspace);
-    object->InitAccess(database.File());
-    return object;
   }
 
   /// With the list of clients open, whose rows are not part of the statements.
@@ -67,52 +46,6 @@ struct Office {
     program.screens.Reopen(PrtBilling::kName);
     return program.screens.Touch<PrtBilling>().VSInvoice;
   }
-
-  test::Database database;
-  EmptyDesktop desktop;
-  Program program{desktop, RegionalSettings{}, database.Folder()};
-};
-
-/// A connection with the statements prepared so far, as the program's own keeps them.
-class ByHand {
- public:
-  explicit ByHand(const test::Database& database) {
-    sqlite3* connection = nullptr;
-    sqlite3_open_v2(database.File().c_str(), &connection, SQLITE_OPEN_READWRITE, nullptr);
-    connection_.reset(connection);
-  }
-
-  /// The rows as texts and numbers of their columns.
-  std::vector<std::vector<std::string>> Rows(const char* sql, std::initializer_list<int> parameters) {
-    sqlite3_stmt* statement = Prepared(sql);
-    int place = 0;
-    for (const int parameter : parameters) sqlite3_bind_int(statement, ++place, parameter);
-    std::vector<std::vector<std::string>> rows;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-      auto& row = rows.emplace_back();
-      for (int column = 0; column < sqlite3_column_count(statement); ++column) {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-        row.emplace_back(text ? text : "");
-      }
-    }
-    sqlite3_reset(statement);
-    return rows;
-  }
-
- private:
-  sqlite3_stmt* Prepared(const char* sql) {
-    for (const auto& [text, statement] : statements_) {
-      if (text == sql) return statement.get();
-    }
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(connection_.get(), sql, -1, &statement, nullptr) != SQLITE_OK) std::abort();
-    statements_.emplace_back(sql, Statement(statement, &sqlite3_finalize));
-    return statement;
-  }
-
-  using Statement = std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)>;
-  std::unique_ptr<sqlite3, decltype(&sqlite3_close)> connection_{nullptr, &sqlite3_close};
-  std::vector<std::pair<const char*, Statement>> statements_;
 };
 
 constexpr const char* kInvoices =
@@ -124,7 +57,7 @@ constexpr const char* kInvoices =
     "tb_Invoice.Interest, tb_Invoice.Tax, tb_Invoice.Description HAVING tb_Client.CustNum = ?1 AND tb_Invoice.Date > "
     "?2 ORDER BY tb_Invoice.InvoiceNum DESC";
 
-void TotalsByHand(ByHand& connection, const std::vector<std::vector<std::string>>& invoices) {
+void TotalsByHand(bench::ByHand& connection, const std::vector<bench::ByHand::Row>& invoices) {
   for (const auto& invoice : invoices) {
     const int number = std::stoi(invoice[4]);
     benchmark::DoNotOptimize(
@@ -137,8 +70,8 @@ void TotalsByHand(ByHand& connection, const std::vector<std::vector<std::string>
 /// The same queries on the same connections: one for the clients throughout, and another that is closed after each
 /// balance.
 void StatementsByHand(const test::Database& database, int days) {
-  ByHand clients(database);
-  auto invoices = std::make_unique<ByHand>(database);
+  bench::ByHand clients(database.File());
+  auto invoices = std::make_unique<bench::ByHand>(database.File());
   for (int client = 1; client <= kClients; ++client) {
     benchmark::DoNotOptimize(clients.Rows("select * from tb_Client where CustNum = ?1", {client}));
     auto owed = invoices->Rows(kInvoices, {client, 29'587});
@@ -149,7 +82,7 @@ void StatementsByHand(const test::Database& database, int days) {
         "tb_Receive.CustNum = tb_Client.CustNum WHERE tb_Receive.Date <= ?1 GROUP BY tb_Client.CustNum HAVING "
         "tb_Client.CustNum = ?2",
         {kToday - days, client}));
-    invoices = std::make_unique<ByHand>(database);
+    invoices = std::make_unique<bench::ByHand>(database.File());
     TotalsByHand(*invoices, invoices->Rows(kInvoices, {client, kToday - days + 1}));
     benchmark::DoNotOptimize(invoices->Rows(
         "SELECT tb_Client.CustNum, tb_Client.Fname, tb_Client.Lname, tb_Client.Lname || ', ' || tb_Client.Fname, "
@@ -187,7 +120,15 @@ void PagesOfStatements(benchmark::State& state) {
 }
 BENCHMARK(PagesOfStatements)->Unit(benchmark::kMillisecond);
 
+void StatementsAsPdf(benchmark::State& state) {
+  Office office;
+  bench::CompareAsPdf(state, *office.Print().Recorded());
+}
+BENCHMARK(StatementsAsPdf)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(9);
+
 }  // namespace
 }  // namespace norvane
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  return norvane::bench::RunOffscreen(argc, argv);
+}

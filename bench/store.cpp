@@ -1,12 +1,11 @@
 // What the store adds to SQLite used by hand.
 
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 #include <memory>
-#include <sqlite3.h>
 #include <string>
 #include <vector>
 
+#include "ByHand.h"
 #include "LargeBusiness.h"
 #include "Measuring.h"
 #include "store/Engine.h"
@@ -22,25 +21,9 @@ const bench::LargeBusiness& Business() {
   return business;
 }
 
-using Row = std::vector<std::string>;
-
 /// The hand-written way: open, prepare, step all rows into strings, close.
-std::vector<Row> ByHand(const std::string& sql) {
-  sqlite3* database = nullptr;
-  sqlite3_open_v2(Business().File().c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
-  sqlite3_stmt* statement = nullptr;
-  if (sqlite3_prepare_v2(database, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) std::abort();
-  std::vector<Row> rows;
-  while (sqlite3_step(statement) == SQLITE_ROW) {
-    Row& row = rows.emplace_back();
-    for (int i = 0; i < sqlite3_column_count(statement); ++i) {
-      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
-      row.emplace_back(text ? text : "");
-    }
-  }
-  sqlite3_finalize(statement);
-  sqlite3_close(database);
-  return rows;
+std::vector<bench::ByHand::Row> ByHand(const std::string& sql) {
+  return bench::ByHand(Business().File()).Rows(sql);
 }
 
 /// The program's way: a connection for the one operation and a detached recordset.

@@ -42,7 +42,7 @@ Object<Recordset> Reports::rsInventorySales() {
                      ")) GROUP BY tb_Inventory.ItemNum, tb_InvCategories.Description, tb_Inventory.Description;"));
 }
 
-Currency Reports::TotalSales() {
+Currency Reports::TotalSales(const std::function<void()>& step) {
   return Result("Reports.TotalSales -", [&] {
     Object<Invoice>& oInvoice = workspace_.globals.oInvoice;
     oInvoice = std::make_shared<Invoice>(workspace_);
@@ -51,7 +51,10 @@ Currency Reports::TotalSales() {
     const auto invoices =
         Read(sql::Statement("select InvoiceNum from tb_Invoice where [date]>= ", BegDate, " and [date]<= ", EndDate));
     Currency total;
-    for (; !invoices->Eof(); invoices->MoveNext()) total += oInvoice->InvoiceTotal(invoices->Long("InvoiceNum"));
+    for (; !invoices->Eof(); invoices->MoveNext()) {
+      total += oInvoice->InvoiceTotal(invoices->Long("InvoiceNum"));
+      step();
+    }
     invoices->Close();
     oInvoice->CloseCn();
     oInvoice.Release();

@@ -11,7 +11,8 @@ namespace norvane {
 /// bar of a notice, if that is open and has one.
 class LongWork {
  public:
-  LongWork(Program& program, int steps, std::string_view notice = {});
+  explicit LongWork(Program& program) : LongWork(program, 0, {}) {}
+  LongWork(Program& program, int steps, std::string_view notice);
   /// To be called after each step.
   void Step();
 

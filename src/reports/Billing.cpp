@@ -38,7 +38,7 @@ void Billing::ListClients(Client& client) {
   const Object<Recordset> clients = client.ClientBals();
   Value lastDate;
   Currency lastAmount;
-  LongWork work(program, clients->RecordCount());
+  LongWork work(program);
   for (; !clients->Eof(); clients->MoveNext(), work.Step()) {
     const Object<Recordset> payments = client.rsLastPayment(clients->Long("CustNum"));
     if (!payments->Eof()) {

@@ -2,6 +2,7 @@
 
 #include "core/FileNames.h"
 #include "data/Reports.h"
+#include "forms/LongWork.h"
 #include "reports/ReportTable.h"
 #include "store/Recordset.h"
 
@@ -47,9 +48,10 @@ PrtIncome::Figures PrtIncome::ReadFigures() {
   reports.InitAccess(workspace.File(kDatabaseFile));
   reports.OpenCn();
   figures.Receipts = reports.Receipts();
-  figures.TotalSales = reports.TotalSales();
+  LongWork work(program);
+  figures.TotalSales = reports.TotalSales([&] { work.Step(); });
   if (types->RecordCount() > 0) types->MoveFirst();
-  for (; !types->Eof(); types->MoveNext()) {
+  for (; !types->Eof(); types->MoveNext(), work.Step()) {
     const std::string type = types->Text("Type");
     figures.expenses.push_back({type, reports.Payments(type)});
     figures.TotalExpenses += figures.expenses.back().amount;

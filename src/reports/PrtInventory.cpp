@@ -4,6 +4,7 @@
 
 #include "core/FileNames.h"
 #include "data/Inventory.h"
+#include "forms/LongWork.h"
 #include "reports/ReportTable.h"
 #include "store/Recordset.h"
 
@@ -37,18 +38,19 @@ void PrtInventory::InventoryPreview() {
     categories_->MoveFirst();
     StartList("Inventory", ListHeader("Inventory"));
     VSregistry.WriteParagraph("");
+    LongWork work(program);
     for (; !categories_->Eof(); categories_->MoveNext()) {
       items_ = inventory_->rsInventory(convert.ToLong(categories_->Field(0)));
-      if (items_->RecordCount() > 0) ListCategory(convert.ToText(categories_->Field(1)));
+      if (items_->RecordCount() > 0) ListCategory(convert.ToText(categories_->Field(1)), work);
     }
     VSregistry.EndDocument();
   });
 }
 
-void PrtInventory::ListCategory(const std::string& name) {
+void PrtInventory::ListCategory(const std::string& name, LongWork& work) {
   WriteGroupTitle(name);
   ReportTable table(VSregistry, convert, kItems);
-  for (; !items_->Eof(); items_->MoveNext()) {
+  for (; !items_->Eof(); items_->MoveNext(), work.Step()) {
     table.Row(items_->Field("ItemNum"), items_->Field("description"), Money{items_->Field("charge")},
               items_->Field("Par"), items_->Field("InStock"), items_->Field("Warranty"));
   }

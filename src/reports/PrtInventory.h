@@ -5,6 +5,7 @@
 namespace norvane {
 
 class Inventory;
+class LongWork;
 class Recordset;
 
 /// Lists the stock by category. Its connection stays open as long as the form is.
@@ -16,7 +17,7 @@ class PrtInventory : public VSregistryReport {
  private:
   void Form_Load() override;
   void InventoryPreview();
-  void ListCategory(const std::string& name);
+  void ListCategory(const std::string& name, LongWork& work);
   void Form_Unload() override;
 
   Object<Inventory> inventory_;

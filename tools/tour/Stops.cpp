@@ -6,7 +6,7 @@ namespace {
 using enum Step::Do;
 
 // Steps that several stops begin with.
-constexpr int kCompany = 30;  // row of a company with much to show: invoices, a back order, payments
+constexpr int kCompany = 86;  // row of a company with much to show: invoices, a back order, payments
 const Step kClient{Click, "Customer", "CustList2", kCompany, 2};
 const Step kSales{DoubleClick, "Customer", "CustList2", kCompany, 2};
 const Step kPayments{Press, "Customer", "btnReceipts"};

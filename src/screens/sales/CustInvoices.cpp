@@ -28,11 +28,11 @@ Value ChargeOf(const Recordset& invoice, const Conversions& convert) {
 CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Client Sales"}) {
   using namespace layout;
   Frame3.SetWidth(1050);
-  SetLayout(Column({Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts,
-                                         Space(), Group(Frame3, Strip({btnInventory, btnExit}))})),
-                    Group(Frame1, Strip({Row({Label4, CmbInvoice}),
-                                         Row({Label2, Row({txtSinceDate, DTPicker1}), btnGo}), Space(), lblClient})),
-                    Stretch(InvoiceList), Strip({Space(), Label3, lblBalDue})}));
+  SetLayout(Column(
+      {Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts, Space(),
+                            Group(Frame3, Strip({btnInventory, btnExit}))})),
+       Group(Frame1, Strip({Row({Label4, CmbInvoice}), Row({Label2, Row({txtSinceDate, DTPicker1}), btnGo}), Space()})),
+       Stretch(InvoiceList), Strip({lblClient, Space(), Label3, lblBalDue})}));
   SetExitButton(btnExit);
   lblClient.SetForeColor(Colour::Grey);
   InvoiceList.SetEmptyHint("No invoices since this date.");

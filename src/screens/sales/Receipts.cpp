@@ -41,10 +41,10 @@ Receipts::Receipts(Program& host)
   using namespace layout;
   PaymentList.SetTop(900);
   for (Button* button : {&Command2, &btnPrint}) button->SetWidth(480);
-  SetLayout(
-      Column({Strip({Field("View Payments Received from:", CmbReceipt), DateField("Since:", txtSinceDate, DTPicker1),
-                     btnGo, Space(), lblClient, Label3, lblBalDue, Space(), btnPrint, Command2}),
-              Stretch(Row({Column({btnNew, btnDelete, Space()}), Stretch(PaymentList)}))}));
+  SetLayout(Column({Strip({Field("View Payments Received from:", CmbReceipt),
+                           DateField("Since:", txtSinceDate, DTPicker1), btnGo, Space(), btnPrint, Command2}),
+                    Stretch(Row({Column({btnNew, btnDelete, Space()}), Stretch(PaymentList)})),
+                    Strip({lblClient, Space(), Label3, lblBalDue})}));
   SetExitButton(Command2);
   lblClient.SetForeColor(Colour::Grey);
   PaymentList.SetEmptyHint("No payments since this date. Type the first one into the row with the star.");

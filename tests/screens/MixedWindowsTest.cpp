@@ -1,4 +1,5 @@
 #include "SalesOffice.h"
+#include "screens/RowOf.h"
 #include "screens/clients/CustSearch.h"
 #include "screens/clients/Profile.h"
 #include "screens/sales/Receipts.h"
@@ -114,12 +115,14 @@ TEST_F(MixedWindowsTest, EachWindowWorksOnTheRecordItShows) {
   EXPECT_EQ(Sheet().lblCustomer.Caption() + Sheet().txtDiscount.Text(), "Ada  Moss0");
   Press(Sheet().btnExit, "Save changes to invoice?", Answer::No);
 
-  // A client who goes takes the open windows along, and what a list still shows of them can't be stored.
+  // A client who goes takes the open windows and the listed invoices along, and an invoice that is gone isn't stored.
   Open(1002);
   Select(kCarl);
   Choose(Main().mnuDelete, "Delete Client ... Moss, Carl ?", Answer::Yes);
   EXPECT_FALSE(IsOpen("InvoiceDetail"));
-  InvoiceDetail& gone = Open(1002);
+  EXPECT_EQ(norvane::RowOf(Sales().InvoiceList, CustInvoices::kInvoiceNum, "1002"), 0);
+  globals.CurInvoiceNum = 1002;
+  InvoiceDetail& gone = Sheet();
   EXPECT_EQ(gone.lblCustomer.Caption(), "");
   Press(gone.btnSave, "InvoiceDetail.btnSave_Click -5 ");
   Press(gone.btnNewItem, "InvoiceDetail.btnNewItem_Click -5 ");

@@ -5,6 +5,7 @@
 #include "forms/Form.h"
 #include "forms/ScreenNames.h"
 #include "screens/clients/RefreshCustList.h"
+#include "screens/sales/CustInvoices.h"
 #include "screens/sales/InvoiceShown.h"
 
 namespace norvane {
@@ -39,6 +40,7 @@ void DeleteClient(Program& program, const ClientShown& client) {
     clients->OpenCn();
     clients->DeleteClient(client.number);
     clients->CloseCn();
+    if (CustInvoices* sales = program.screens.Find<CustInvoices>()) sales->ForgetClient(client.number);
   }
   RefreshCustList(program);
 }

@@ -23,7 +23,7 @@ void SelectClient(Program& program, const ClientShown& client);
 /// reported.
 std::optional<ClientShown> ReadClient(Program& program, std::int32_t number);
 
-/// A screen that stores what belongs to a client. It closes before the client is deleted.
+/// A screen that shows what belongs to a client. It closes before the client is deleted.
 class ClientScreen {
  public:
   virtual ~ClientScreen() = default;

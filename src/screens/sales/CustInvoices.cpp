@@ -127,6 +127,12 @@ void CustInvoices::ListInvoices(Recordset& invoices, const ClientShown& client, 
   if (const int row = RowOf(InvoiceList, kInvoiceNum, convert.ToText(marked)); row > 0) InvoiceList.SetRow(row);
 }
 
+void CustInvoices::ForgetClient(std::int32_t custNum) {
+  for (int row = InvoiceList.Rows() - 1; row > 0; --row) {
+    if (InvoiceList.Cell(row, kCustNum) == convert.ToText(custNum)) InvoiceList.RemoveItem(row);
+  }
+}
+
 void CustInvoices::RefreshInvoice(const InvoiceShown& saved) {
   const int row = RowOf(InvoiceList, kInvoiceNum, convert.ToText(saved.number));
   if (row == 0) return;

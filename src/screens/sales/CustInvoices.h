@@ -6,7 +6,7 @@
 namespace norvane {
 
 /// The sales invoices of the selected client, or of all clients, since a date.
-class CustInvoices : public Form {
+class CustInvoices : public Form, public ClientScreen {
  public:
   static constexpr const char* kName = screen::kCustInvoices;
   static constexpr const char* kSelectedClient = "Selected Client";
@@ -53,6 +53,10 @@ class CustInvoices : public Form {
   void SelectMarked();
   /// Shows what the client whose invoices are listed owes today, red if it is anything. Reports no errors itself.
   void ShowBalanceDue();
+  /// A list of this client alone.
+  bool Shows(std::int32_t custNum) const override { return custNum != 0 && client_.number == custNum; }
+  /// Takes a deleted client's rows out of the list of all clients: their numbers may be given again.
+  void ForgetClient(std::int32_t custNum);
   /// Writes the row of an invoice that has been saved again, if it is in the list. oInvoice must be open.
   void RefreshInvoice(const InvoiceShown& saved);
 

@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyle>
 #include <QToolTip>
 
 #include "core/WholeFile.h"
@@ -528,6 +529,12 @@ void GridView::SortBy(int col) {
 void GridView::ShowSortSign() {
   QHeaderView& header = *horizontalHeader();
   header.setSectionsClickable(grid_->Sortable());
+  // Headings leave room for the sign only where there may be one.
+  if (header.property("sortable").toBool() != grid_->Sortable()) {
+    header.setProperty("sortable", grid_->Sortable());
+    header.style()->unpolish(&header);
+    header.style()->polish(&header);
+  }
   const auto& sort = grid_->SortedBy();
   header.setSortIndicatorShown(sort.has_value());
   if (sort) header.setSortIndicator(sort->col, sort->descending ? Qt::DescendingOrder : Qt::AscendingOrder);

@@ -13,7 +13,7 @@ const Step kPayments{Press, "Customer", "btnReceipts"};
 const Step kRegistry{Press, "Customer", "btnPayments"};
 const Step kInventory{Press, "Customer", "btnInventory"};
 const Step kProfile{Press, "Customer", "btnCustInfo"};
-const Step kInvoice{DoubleClick, "CustInvoices", "InvoiceList", 1, 2};
+const Step kInvoice{DoubleClick, "CustInvoices", "InvoiceList", 2, 2};
 const Step kNoDate{Edit, "Receipts", "PaymentList", 2, 3, "13/32/2025"};
 const Step kSetup{Choose, "Customer", "mnuSetup"};
 const Step kOrdering{Choose, "Customer", "mnuOrdering"};

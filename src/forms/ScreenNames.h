@@ -16,6 +16,7 @@ inline constexpr char kPaymentDate[] = "PaymentDate";
 inline constexpr char kReceipts[] = "Receipts";
 
 inline constexpr char kfrmFind[] = "frmFind";
+inline constexpr char kfrmOverview[] = "frmOverview";
 
 inline constexpr char kBackOrderSet[] = "BackOrderSet";
 inline constexpr char kfrmInventory[] = "frmInventory";

@@ -1,5 +1,7 @@
 #include "reports/PrtIncome.h"
 
+#include <utility>
+
 #include "core/FileNames.h"
 #include "data/Reports.h"
 #include "forms/LongWork.h"
@@ -26,7 +28,10 @@ PrtIncome::PrtIncome(Program& host) : PeriodReport(host, kName, "Print Income St
 void PrtIncome::Form_Load() {
   Build("PrtIncome.Form_Load -", [this] {
     const Date today = desktop.Today();
-    SetPeriod(Date::FromYearMonthDay(today.Year(), 1, 1), today);
+    const Date beginning = std::exchange(globals.PeriodBeginning, {});
+    const Date ending = std::exchange(globals.PeriodEnd, {});
+    const bool isAsked = beginning != Date();
+    SetPeriod(isAsked ? beginning : Date::FromYearMonthDay(today.Year(), 1, 1), isAsked ? ending : today);
     btnGo_Click();
   });
 }

@@ -6,6 +6,7 @@
 #include "screens/clients/Customer.h"
 #include "screens/clients/Profile.h"
 #include "screens/find/frmFind.h"
+#include "screens/overview/frmOverview.h"
 #include "screens/registry/GL.h"
 #include "screens/registry/LedgerTypes.h"
 #include "screens/registry/VendorSearch.h"
@@ -49,6 +50,7 @@ void RegisterScreens(Program& program) {
   screens.Add<Vendors>();
   screens.Add<frmFind>();
   screens.Add<frmInventory>();
+  screens.Add<frmOverview>();
   screens.Add<frmSetup>();
   screens.Add<intro>();
   RegisterNotices(screens);

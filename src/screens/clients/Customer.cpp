@@ -91,6 +91,7 @@ void Customer::WireMenu() {
   WireTo(mnu90days, screen::kPrt30Days, [this] { ShowAging(90); });
   WireToReopen(mnuIncomeStatement, screen::kPrtIncome);
 
+  WireToReopen(mnuOverview, screen::kfrmOverview);
   mnuContents.Click = [this] { mnuContents_Click(); };
   mnuAbout.Click = [this] { screens.Show(screen::kAbout); };
 }

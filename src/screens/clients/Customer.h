@@ -70,6 +70,8 @@ class Customer : public Form {
   MenuEntry mnu60days{mnuPrintClients, "mnu60days", "&60 Days"};
   MenuEntry mnu90days{mnuPrintClients, "mnu90days", "&90 days"};
   MenuEntry mnuIncomeStatement{mnuPrint, "mnuIncomeStatement", "I&ncome Statement"};
+  MenuEntry mnuView{*this, "mnuView", "&View"};
+  MenuEntry mnuOverview{mnuView, "mnuOverview", "&Overview", "overview"};
   MenuEntry mnuHelp{*this, "mnuHelp", "&Help"};
   MenuEntry mnuContents{mnuHelp, "mnuContents", "&Contents", "help"};
   MenuEntry mnuAbout{mnuHelp, "mnuAbout", "&About Norvane", "about"};

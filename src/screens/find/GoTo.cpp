@@ -30,13 +30,6 @@ std::unique_ptr<Record> Open(Program& program) {
   return record;
 }
 
-/// An income statement leaves no shared invoice, which the screens to come work with.
-void ProvideInvoice(Program& program) {
-  if (program.globals.oInvoice) return;
-  program.globals.oInvoice = std::make_shared<Invoice>(program.workspace);
-  program.globals.oInvoice->InitAccess(program.workspace.File(kDatabaseFile));
-}
-
 bool IsThere(Program& program, bool there) {
   if (!there) program.desktop.Say("This record is no longer there.");
   return there;
@@ -100,6 +93,12 @@ bool GoToEntry(Program& program, std::int32_t number) {
 }
 
 }  // namespace
+
+void ProvideInvoice(Program& program) {
+  if (program.globals.oInvoice) return;
+  program.globals.oInvoice = std::make_shared<Invoice>(program.workspace);
+  program.globals.oInvoice->InitAccess(program.workspace.File(kDatabaseFile));
+}
 
 bool GoTo(Program& program, const Place& place) {
   ProvideInvoice(program);

@@ -20,4 +20,7 @@ struct Place {
 /// keeps that, or if the record has gone, which is said. Reports no errors itself.
 bool GoTo(Program& program, const Place& place);
 
+/// An income statement leaves no shared invoice, which other screens work with: makes one if there is none.
+void ProvideInvoice(Program& program);
+
 }  // namespace norvane

@@ -31,8 +31,8 @@ class DemoForm : public Form {
     Rows.SetColDataType(4, ColumnType::Boolean);
     Rows.SetColComboList(2, "#1;Goods|#2;Services|#3;Freight");
     Rows.SetColComboList(5, "...");
-    Rows.AddItem("\tPaper\t1\t$12.50\t0\tNorth Mill\t");
-    Rows.AddItem("\tDelivery\t3\t$4.00\t-1\tQuick Van\tby Friday");
+    Rows.AddItem("\tPaper\tGoods\t$12.50\t0\tNorth Mill\t");
+    Rows.AddItem("\tDelivery\tFreight\t$4.00\t-1\tQuick Van\tby Friday");
     Rows.AddItem("*");
     for (const auto* item : {"30 days", "60 days", "at once"}) cmbTerms.AddItem(item);
     for (const auto* item : {"Selected Client", "All Clients"}) cmbWhich.AddItem(item);

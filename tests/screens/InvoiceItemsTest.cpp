@@ -250,5 +250,34 @@ TEST_F(InvSearchTest, MovesNoStockWithoutARowAndGivesWayToTheStockScreenWithoutA
   EXPECT_TRUE(IsOpen("frmInventory"));
 }
 
+TEST_F(InvoiceItemsTest, ACopyTakesItsUnitsOutOfStockAsLinesEnteredByHand) {
+  SetStock(5);
+  AddInvoice(1001, kAda, kNewYear + 40, 0);
+  AddLine(1001, 1001, 3, -7);
+  AddLine(1002, 1001, 2);
+  AddLine(1003, 1001, 4);
+  database.Execute(
+      "UPDATE tb_Invoice SET Discount = 10, ShippingCharge = 52500, Interest = 30000, TrackingNum = 'Z9', Terms = "
+      "'Net' "
+      "WHERE InvoiceNum = 1001");
+  StartWithSales();
+  desktop.Expect("Last Lamp in Inventory added to Invoice.");
+  desktop.Expect(kShort);
+  Sales().btnCopy.Press();
+  EXPECT_EQ(Sheet().lblInvoiceNum.Caption(), "1002");
+  EXPECT_EQ(Stock(), "-4");
+  EXPECT_THAT(Lines(), ElementsAre("1001|1001|3.0|300000|-7", "1002|1001|2.0|200000|0", "1003|1001|4.0|400000|0",
+                                   "1004|1001|3.0|300000|0", "1005|1001|2.0|200000|0", "1006|1001|4.0|400000|-4"));
+  EXPECT_THAT(database.Rows("SELECT CustNum, Date, Description, Discount, ShippingCharge, Interest, TrackingNum, Terms "
+                            "FROM tb_Invoice WHERE InvoiceNum = 1002"),
+              ElementsAre("1003|46348|Order 1001|10.0|52500|0||Net"));
+  EXPECT_EQ(Sheet().lblTotal.Caption(), "$86.25");
+  // A copy of the copy, whose unsaved change is asked about first.
+  Sheet().txtDescription.UserType("Again");
+  Press(Sheet().btnCopy, "Save changes to invoice?", Answer::Cancel);
+  EXPECT_EQ(Sheet().lblInvoiceNum.Caption(), "1002");
+  EXPECT_EQ(Stock(), "-4");
+}
+
 }  // namespace
 }  // namespace norvane::test

@@ -29,7 +29,7 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
   using namespace layout;
   Frame3.SetWidth(1050);
   SetLayout(Column(
-      {Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts, Space(),
+      {Group(Frame2, Strip({btnDetails, btnNewInvoice, btnDelete, btnPrint, btnCustInfo, btnReceipts, btnCopy, Space(),
                             Group(Frame3, Strip({btnInventory, btnExit}))})),
        Group(Frame1, Strip({Row({Label4, CmbInvoice}), Row({Label2, Row({txtSinceDate, DTPicker1}), btnGo}), Space()})),
        Stretch(InvoiceList), Strip({lblClient, Space(), Label3, lblBalDue})}));
@@ -54,6 +54,7 @@ CustInvoices::CustInvoices(Program& host) : Form(host, kName, {.caption = "Clien
     TakeSelection();
     ShowReceipts(program, SelectedClient(globals));
   });
+  btnCopy.Click = [this] { btnCopy_Click(); };
   btnInventory.Click = [this] { btnInventory_Click(); };
   btnExit.Click = [this] { Unload(); };
   WritePickedDate(DTPicker1, txtSinceDate);
@@ -190,6 +191,13 @@ void CustInvoices::InvoiceList_DblClick() {
   if (!screens.Close(InvoiceDetail::kName)) return;
   SelectInvoice(program, asked);
   screens.Show(InvoiceDetail::kName, {.owner = this});
+}
+
+void CustInvoices::btnCopy_Click() {
+  const std::int32_t number = MarkedNumber();
+  InvoiceList_DblClick();
+  auto* sheet = screens.Find<InvoiceDetail>();
+  if (number != 0 && sheet && sheet->NumberShown() == number) sheet->CopyToNew();
 }
 
 // The deletion itself is carried out as the list is read again: all of the client's invoices, whatever the since date.

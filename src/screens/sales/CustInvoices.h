@@ -24,6 +24,7 @@ class CustInvoices : public Form, public ClientScreen {
   Button btnPrint{*this, "btnPrint", {.toolTip = "Print selected sales invoice", .icon = "print"}};
   Button btnCustInfo{*this, "btnCustInfo", {.toolTip = "Profile for selected client", .icon = "client"}};
   Button btnReceipts{*this, "btnReceipts", {.toolTip = "Client Payments Received", .icon = "receipts"}};
+  Button btnCopy{*this, "btnCopy", {.toolTip = "Copy to new invoice", .icon = "copy"}};
   Frame Frame3{*this, "Frame3"};
   Button btnInventory{*this, "btnInventory", {.toolTip = "Add to/Edit Inventory", .icon = "inventory"}};
   Button btnExit{*this, "btnExit", {.toolTip = "Exit Client Sales", .icon = "exit"}};
@@ -66,6 +67,7 @@ class CustInvoices : public Form, public ClientScreen {
   void InvoiceList_Click();
   void TakeSelection();
   void InvoiceList_DblClick();
+  void btnCopy_Click();
   void btnDelete_Click();
   void btnInventory_Click();
   void Form_Resize() override;

@@ -28,7 +28,7 @@ InvoiceDetail::InvoiceDetail(Program& host)
   lblSaved.SetForeColor(Colour::Grey);
   lblLessStored.SetForeColor(Colour::Red);
   SetLayout(
-      Column({Strip({btnSave, btnNew, btnPrint, btnPayments, Space(), btnExit}), Head(),
+      Column({Strip({btnSave, btnNew, btnPrint, btnPayments, btnCopy, Space(), btnExit}), Head(),
               Stretch(Group("Invoice Items",
                             Column({Stretch(ItemList), Strip({btnNewItem, btnRemove, Space(), lblSaved, lblLessStored,
                                                               Field("Total Charges:", lblTotal)})})))}));
@@ -57,6 +57,7 @@ void InvoiceDetail::WireButtons() {
   btnNew.Click = [this] { btnNew_Click(); };
   WireTo(btnPrint, screen::kPrtInvoice, [this] { btnPrint_Click(); });
   btnPayments.Click = [this] { btnPayments_Click(); };
+  btnCopy.Click = [this] { CopyToNew(); };
   btnExit.Click = [this] { btnExit_Click(); };
   btnTax.Click = [this] { btnTax_Click(); };
 }

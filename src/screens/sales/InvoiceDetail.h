@@ -27,6 +27,7 @@ class InvoiceDetail : public Form, public ClientScreen {
   Button btnNew{*this, "btnNew", {.toolTip = "Enter new sales invoice for this client", .icon = "invoice-new"}};
   Button btnPrint{*this, "btnPrint", {.toolTip = "Print this invoice", .icon = "print"}};
   Button btnPayments{*this, "btnPayments", {.toolTip = "Enter payments received from this client", .icon = "receipts"}};
+  Button btnCopy{*this, "btnCopy", {.toolTip = "Copy to new invoice", .icon = "copy"}};
   Button btnExit{*this, "btnExit", {.toolTip = "Exit Invoice Details", .icon = "exit"}};
   Label lblInvoiceNum{*this, "lblInvoiceNum"};
   Label lblCustomer{*this, "lblCustomer"};
@@ -61,6 +62,10 @@ class InvoiceDetail : public Form, public ClientScreen {
   /// reports the last unit and a back order. False if the stock can't be counted or there is no head for the line;
   /// nothing is added then. Raises 5 where no invoice is shown.
   bool AddItem(std::int32_t itemNum, const std::string& description, const std::string& price);
+  /// Begins a new invoice of today for the same client with the same lines, and stores it. Each line takes its units
+  /// out of stock and reports a back order as one entered by hand. A line whose item is gone is reported and left out.
+  /// Asks about unsaved changes first.
+  void CopyToNew();
 
  private:
   layout::Node Head();
@@ -107,7 +112,9 @@ class InvoiceDetail : public Form, public ClientScreen {
   void StoreRow(std::int32_t row);
   void StoreLine(std::int32_t row, std::int32_t transNum);
   std::int32_t AddLine(std::int32_t itemNum, const std::string& description, const std::string& price);
-  void MarkBackOrder(std::int32_t row);
+  void CopyHead(std::int32_t source);
+  void CopyLine(const Recordset& line);
+  void MarkBackOrder(std::int32_t row, std::int32_t quantity);
   void btnNewItem_Click();
   void btnRemove_Click();
 

@@ -1,8 +1,10 @@
 // The lines of an invoice: loading, editing and storing them, and the stock and back orders that follow.
 
+#include "core/Rounding.h"
 #include "core/Val.h"
 #include "data/Inventory.h"
 #include "data/Invoice.h"
+#include "screens/clients/ClientCommands.h"
 #include "screens/sales/InvoiceDetail.h"
 #include "screens/stock/InvSearch.h"
 #include "store/Recordset.h"
@@ -170,7 +172,7 @@ bool InvoiceDetail::AddItem(std::int32_t itemNum, const std::string& description
   if (!headIsStored_ && !Save()) return false;
   if (!TakeFromStock(itemNum, 0, 1)) return false;
   const std::int32_t row = AddLine(itemNum, description, price);
-  MarkBackOrder(row);
+  MarkBackOrder(row, 1);
   StoreLine(row, 0);
   GetInvoiceTotal();
   return true;
@@ -190,13 +192,67 @@ std::int32_t InvoiceDetail::AddLine(std::int32_t itemNum, const std::string& des
   return row;
 }
 
-void InvoiceDetail::MarkBackOrder(std::int32_t row) {
-  ItemList.SetCell(row, kBackOrder, IsShort() ? "-1" : "");
+// A line of several units is on back order by what the stock didn't cover, as after raising its quantity.
+void InvoiceDetail::MarkBackOrder(std::int32_t row, std::int32_t quantity) {
+  const std::int32_t units = globals.QtyLeft + quantity > 0 ? globals.QtyLeft : -quantity;
+  ItemList.SetCell(row, kBackOrder, IsShort() ? convert.ToText(units) : "");
   if (IsShort()) {
     ReportBackOrder(row);
   } else if (globals.QtyLeft == 0) {
     desktop.Say("Last " + ItemList.Cell(row, kDescription) + " in Inventory added to Invoice.");
   }
+}
+
+// Copies.
+
+void InvoiceDetail::CopyToNew() {
+  Trapped("InvoiceDetail.btnCopy_Click -", [&] {
+    RequireInvoice();
+    if (!OfferToSave() || !SelectNewInvoice(program, client_)) return;
+    const std::int32_t source = NumberShown();
+    screens.Unload(screen::kInvSearch);
+    Form_Load();
+    if (NumberShown() == 0) return;
+    CopyHead(source);
+    if (!Save()) return;
+    NewInvoice = false;
+    globals.oInvoice->OpenCn();
+    const Object<Recordset> lines = globals.oInvoice->GetInvoiceItems(source);
+    globals.oInvoice->CloseCn();
+    for (; !lines->Eof(); lines->MoveNext()) CopyLine(*lines);
+    GetInvoiceTotal();
+  });
+}
+
+// Interest and parcel are the other invoice's own.
+void InvoiceDetail::CopyHead(std::int32_t source) {
+  const Object<Invoice> invoice = globals.oInvoice;
+  invoice->OpenCn();
+  invoice->GetInvoice(source);
+  invoice->CloseCn();
+  invoice->Shippingdate = date_;
+  invoice->TrackingNum.clear();
+  invoice->Interest = Currency();
+  txtDescription.SetText(invoice->description);
+  txtSalesRep.SetText(invoice->SalesRep);
+  txtDiscount.SetText(convert.ToText(invoice->Discount));
+  ShowShippingAndCharges();
+  // As text with its symbol in front a charge would be stored as 0.
+  txtShipCharge.SetText(convert.ToText(invoice->ShippingCharge));
+  txtTax.SetText(convert.ToText(invoice->Tax));
+}
+
+void InvoiceDetail::CopyLine(const Recordset& line) {
+  const std::int32_t itemNum = line.Long("ItemNum");
+  const std::int32_t quantity = RoundToLong(line.Double("Qty"));
+  if (!TakeFromStock(itemNum, 0, quantity)) return;
+  const Currency amount = line.Currency("Amount");
+  const double price = quantity == 0 ? 0 : amount.ToDouble() / quantity;
+  const std::int32_t row = AddLine(itemNum, line.Text("Notes"), convert.ToText(Currency::FromDouble(price)));
+  ItemList.SetCell(row, kQuantity, convert.ToText(quantity));
+  ItemList.SetCell(row, kTotal, convert.CurrencyText(amount));
+  MarkBackOrder(row, quantity);
+  StoreLine(row, 0);
 }
 
 // The units that the line took stay out of stock.

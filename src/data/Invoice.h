@@ -85,6 +85,11 @@ class Invoice : public DataObject {
   /// The same of those that have one.
   Object<Recordset> GetBackOrderedItems();
   void SaveOrderDate(std::int32_t transNum, Date orderDate);
+  /// All lines on back order of items whose stock is counted, ordered or not, the oldest invoice first: the same, and
+  /// InStock.
+  Object<Recordset> GetCountedBackOrders();
+  /// Sets a line's back order to 0 and nothing else. False after a report.
+  bool ClearBackOrder(std::int32_t transNum);
 
   /// The payments after `sinceDate` by date and number, of one client or, for -1, of all: CustNum, Fname, Lname,
   /// FullName, TransNum, Type, CheckNum, Date, Amount, Notes. Leaves `custNum` in the property CustNum.

@@ -14,6 +14,17 @@ constexpr std::string_view kBackOrders =
     "tb_Client.Fname as Fname FROM (tb_trans INNER JOIN tb_Invoice ON tb_trans.InvoiceNum = tb_Invoice.InvoiceNum) "
     "INNER JOIN tb_Client ON tb_Invoice.CustNum = tb_Client.CustNum WHERE ((val(tb_trans.BackOrder)<0) AND ";
 
+constexpr std::string_view kCountedBackOrders =
+    "SELECT tb_trans.TransNum as TransNum, tb_trans.InvoiceNum as InvoiceNum, tb_trans.ItemNum as ItemNum, "
+    "tb_trans.Notes as Notes, tb_trans.BackOrder as BackOrderQty, tb_trans.Ordered as Ordered, "
+    "tb_Invoice.Date as InvoiceDate, tb_Invoice.SalesRep as SalesRep, tb_Client.Lname as Lname, "
+    "tb_Client.Fname as Fname, tb_Inventory.InStock as InStock "
+    "FROM ((tb_trans INNER JOIN tb_Invoice ON tb_trans.InvoiceNum = tb_Invoice.InvoiceNum) "
+    "INNER JOIN tb_Client ON tb_Invoice.CustNum = tb_Client.CustNum) "
+    "INNER JOIN tb_Inventory ON tb_trans.ItemNum = tb_Inventory.ItemNum "
+    "WHERE ((val(tb_trans.BackOrder)<0) AND (tb_Inventory.Par>0)) "
+    "order by tb_Invoice.Date, tb_Invoice.InvoiceNum, tb_trans.TransNum";
+
 }  // namespace
 
 Object<Recordset> Invoice::GetInvoiceItems(std::int32_t invoiceNum) {
@@ -53,6 +64,15 @@ Object<Recordset> Invoice::GetBackOrderedItems() {
 void Invoice::SaveOrderDate(std::int32_t transNum, Date orderDate) {
   Trapped("Invoice.SaveOrderDate -",
           [&] { Run(sql::Statement("update tb_trans set ordered = ", orderDate, " where TransNum = ", transNum)); });
+}
+
+Object<Recordset> Invoice::GetCountedBackOrders() {
+  return List("Invoice.GetCountedBackOrders -", kCountedBackOrders);
+}
+
+bool Invoice::ClearBackOrder(std::int32_t transNum) {
+  return Trapped("Invoice.ClearBackOrder -",
+                 [&] { Run(sql::Statement("update tb_trans set BackOrder = '0' where TransNum = ", transNum)); });
 }
 
 // The procedure is older than the record: it takes the payment's number, amount and notes.

@@ -45,8 +45,10 @@ inline constexpr char kLoadingInvoices[] = "LoadingInvoices";
 inline constexpr char kVendorSaved[] = "VendorSaved";
 
 // Reports, and what asks for their criteria.
+inline constexpr char kBackOrderFill[] = "BackOrderFill";
 inline constexpr char kBilling[] = "Billing";
 inline constexpr char kPrt30Days[] = "Prt30Days";
+inline constexpr char kPrtBackOrderFill[] = "PrtBackOrderFill";
 inline constexpr char kPrtBackOrdered[] = "PrtBackOrdered";
 inline constexpr char kPrtBackOrders[] = "PrtBackOrders";
 inline constexpr char kPrtBals[] = "PrtBals";

@@ -12,9 +12,9 @@ namespace {
 
 /// These store what they show by a key, which may be another record's in the file that has been restored.
 constexpr const char* kHoldersOfKeys[] = {
-    screen::kProfile,       screen::kInvoiceDetail,     screen::kReceipts,     screen::kfrmInventory,
-    screen::kInventoryCats, screen::kBackOrderSet,      screen::kGL,           screen::kVendors,
-    screen::kExpenseTypes,  screen::kPaymentCategories, screen::kShippingTypes};
+    screen::kProfile,       screen::kInvoiceDetail, screen::kReceipts,          screen::kfrmInventory,
+    screen::kInventoryCats, screen::kBackOrderSet,  screen::kBackOrderFill,     screen::kGL,
+    screen::kVendors,       screen::kExpenseTypes,  screen::kPaymentCategories, screen::kShippingTypes};
 
 }  // namespace
 

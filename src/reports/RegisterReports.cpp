@@ -1,9 +1,11 @@
 #include "reports/RegisterReports.h"
 
 #include "forms/Program.h"
+#include "reports/BackOrderFill.h"
 #include "reports/BackOrderReport.h"
 #include "reports/Billing.h"
 #include "reports/Prt30Days.h"
+#include "reports/PrtBackOrderFill.h"
 #include "reports/PrtBals.h"
 #include "reports/PrtBilling.h"
 #include "reports/PrtIncome.h"
@@ -18,8 +20,10 @@ namespace norvane {
 
 void RegisterReports(Program& program) {
   ScreenTable& screens = program.screens;
+  screens.Add<BackOrderFill>();
   screens.Add<Billing>();
   screens.Add<Prt30Days>();
+  screens.Add<PrtBackOrderFill>();
   screens.Add<PrtBackOrdered>();
   screens.Add<PrtBackOrders>();
   screens.Add<PrtBals>();

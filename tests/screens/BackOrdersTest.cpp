@@ -1,5 +1,7 @@
 #include "Office.h"
+#include "reports/BackOrderFill.h"
 #include "reports/BackOrderReport.h"
+#include "reports/PrtBackOrderFill.h"
 #include "reports/RegisterReports.h"
 #include "screens/stock/BackOrderSet.h"
 #include "support/PinnedFontMetrics.h"
@@ -87,6 +89,47 @@ TEST_F(BackOrdersTest, TheButtonOfACellBeginsItsEditAndAllAreSetInSixteenBits) {
   EXPECT_EQ(list.Cell(32'767, BackOrderSet::kOrderDate), "11/22/2026");
   list.SetRows(32'769);
   Press(The<BackOrderSet>().btnSetAll, "BackOrderSet.btnSetAll_Click -6 Overflow");
+}
+
+TEST_F(BackOrdersTest, WhatArrivesGoesToTheOldestInvoiceFirst) {
+  database.Execute(
+      "INSERT INTO tb_Inventory (ItemNum, CatNum, Description, Charge, Par, InStock) VALUES "
+      "(60, 1, 'Vase', 10000, 5, -5), (61, 1, 'Labour', 10000, 0, 9);"
+      "INSERT INTO tb_Invoice (InvoiceNum, CustNum, Date, Discount, SalesRep) VALUES (2, 1001, 45000, 0, NULL);"
+      "INSERT INTO tb_trans (TransNum, InvoiceNum, ItemNum, Qty, Amount, Notes, BackOrder, Ordered) VALUES "
+      "(11, 1, 60, 4, 1, 'Young', '-2', 46001), (12, 2, 60, 3, 1, 'Old', '-3', NULL), (13, 2, 61, 1, 1, 'Hour', '-1', "
+      "NULL)");
+  const auto stock = [&](int count) {
+    database.Execute("UPDATE tb_Inventory SET InStock = " + std::to_string(count) + " WHERE ItemNum = 60");
+  };
+  const auto listed = [&] { return ColumnOf(The<BackOrderFill>().InventoryList, BackOrderFill::kDescription); };
+  Choose(Main().mnuFillBackOrders, "No back orders can be filled from stock.");
+  EXPECT_FALSE(IsOpen(BackOrderFill::kName));
+  stock(-3);  // two have come: the young line gets none of what the old one waits for
+  Choose(Main().mnuFillBackOrders, "No back orders can be filled from stock.");
+  stock(-1);
+  Main().mnuFillBackOrders.Choose();
+  EXPECT_THAT(listed(), ElementsAre("Old"));
+  stock(0);
+  Main().mnuFillBackOrders.Choose();
+  EXPECT_THAT(listed(), ElementsAre("Old", "Young"));
+
+  const std::string before =
+      database.Cell("SELECT group_concat(TransNum || Qty || Amount || Notes || coalesce(Ordered, '')) FROM tb_trans");
+  The<BackOrderFill>().InventoryList.UserClick(2, 1);
+  Press(The<BackOrderFill>().btnPrint, "picking list of 1 line", Answer::No);
+  EXPECT_FALSE(IsOpen(PrtBackOrderFill::kName));
+  Press(The<BackOrderFill>().btnPrint, "picking list of 1 line", Answer::Yes);
+  EXPECT_THAT(WordsOf(The<PrtBackOrderFill>().VSregistry),
+              ::testing::IsSupersetOf({"Young", "2", "Carl Moss", "Grace"}));
+  EXPECT_THAT(listed(), ElementsAre("Old"));
+  Press(The<BackOrderFill>().btnPrint, "picking list of 1 line", Answer::Yes);
+  EXPECT_THAT(database.Rows("SELECT TransNum, BackOrder FROM tb_trans WHERE ItemNum > 50"),
+              ElementsAre("11|0", "12|0", "13|-1"));
+  EXPECT_EQ(
+      database.Cell("SELECT group_concat(TransNum || Qty || Amount || Notes || coalesce(Ordered, '')) FROM tb_trans"),
+      before);
+  EXPECT_EQ(database.Cell("SELECT InStock FROM tb_Inventory WHERE ItemNum = 60"), "0");
 }
 
 }  // namespace

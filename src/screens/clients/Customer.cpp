@@ -76,6 +76,8 @@ void Customer::WireMenu() {
   WireTo(mnuPay, screen::kGL, [this] { btnPayments_Click(); });
   WireTo(mnuInventory, screen::kfrmInventory, [this] { btnInventory_Click(); });
 
+  WireToReopen(mnuFillBackOrders, screen::kBackOrderFill);
+
   WireTo(mnuOrdering, screen::kPrtBackOrders, [this] { mnuOrdering_Click(); });
   WireTo(mnuOrdered, screen::kPrtBackOrdered, [this] { mnuOrdered_Click(); });
   WireTo(mnuBilling, screen::kBilling, [this] {

@@ -54,6 +54,7 @@ class Customer : public Form {
   MenuEntry mnuReceive{mnuTables, "mnuReceive", "Client &Receipts", "receipts"};
   MenuEntry mnuPay{mnuTables, "mnuPay", "&Payment/Deposit Registry", "registry"};
   MenuEntry mnuInventory{mnuTables, "mnuInventory", "&Inventory Maintenance", "inventory"};
+  MenuEntry mnuFillBackOrders{mnuTables, "mnuFillBackOrders", "&Fill Back Orders", "order"};
   MenuEntry mnuPrint{*this, "mnuPrint", "&Print"};
   MenuEntry mnuBackOrder{mnuPrint, "mnuBackOrder", "Back &Orders"};
   MenuEntry mnuOrdering{mnuBackOrder, "mnuOrdering", "&Ordering", "order"};

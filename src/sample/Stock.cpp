@@ -1,6 +1,7 @@
 #include "sample/Stock.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "sample/Words.h"
 
@@ -69,8 +70,12 @@ Stock::Item& Stock::PickItem(Random& random) {
 
 void Stock::Write(Database& database) const {
   Inserter rows(database, "tb_Inventory", "ItemNum,CatNum,Description,Charge,Par,InStock,Warranty");
-  for (const Item& item : items_)
-    rows.Add({item.number, item.category, item.name, item.charge, item.par, item.inStock, item.warranty});
+  bool arrived = false;  // this morning, for the oldest line of one item, which nobody has been told of
+  for (const Item& item : items_) {
+    const bool fills = !item.shortages.empty() && !std::exchange(arrived, true);
+    const int inStock = item.inStock - (fills ? item.shortages.front().units : 0);
+    rows.Add({item.number, item.category, item.name, item.charge, item.par, inStock, item.warranty});
+  }
 }
 
 }  // namespace norvane::sample

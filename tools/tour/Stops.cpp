@@ -64,6 +64,7 @@ const std::vector<Stop>& Stops() {
 
       {"inventory", "frmInventory", {kInventory}},
       {"categories", "InventoryCats", {kInventory, {Press, "frmInventory", "btnCategories"}}},
+      {"fill-back-orders", "BackOrderFill", {{Choose, "Customer", "mnuFillBackOrders"}}},
       {"order-dates", "BackOrderSet", {kOrdering, {Press, "PrtBackOrders", "btnOrder"}}},
 
       {"vendors", "Vendors", {{Press, "Customer", "btnVendors"}}},

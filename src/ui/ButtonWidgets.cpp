@@ -50,7 +50,10 @@ Binding* MakeButton(Button& button, QWidget* parent) {
   if (!isPicture) widget->setIconSize({kIconSize - 6, kIconSize - 6});
   widget->ensurePolished();
   auto* binding = new Binding(button, *widget, [&button, widget](Aspect) {
-    widget->setText(ToQt(button.Caption()));
+    // Spaces set a caption apart from its icon.
+    const QString caption = ToQt(button.Caption());
+    widget->setText(widget->icon().isNull() || caption.isEmpty() ? caption : "  " + caption);
+    if (!caption.isEmpty()) widget->setAccessibleName(QString(caption).remove('&'));
     if (!button.Caption().empty()) widget->setMinimumWidth(std::max(kButtonWidth, widget->sizeHint().width()));
   });
   QObject::connect(widget, &QPushButton::clicked, binding, [&button] { button.Press(); });

@@ -44,6 +44,11 @@ void FlowLayout::AddLayout(QLayout* layout) {
   addItem(layout);
 }
 
+void FlowLayout::AddStretched(QWidget* widget) {
+  addWidget(widget);
+  stretched_ = widget;
+}
+
 void FlowLayout::AddStretch() {
   addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum));
 }
@@ -102,11 +107,15 @@ void FlowLayout::setGeometry(const QRect& rect) {
 
 void FlowLayout::Place(const Line& line, const QRect& rect) const {
   const auto isSpacer = [](QLayoutItem* item) { return item->spacerItem() != nullptr; };
+  const auto isStretched = [this](QLayoutItem* item) { return stretched_ && item->widget() == stretched_; };
+  const bool givesAway = std::any_of(line.begin(), line.end(), isStretched);
+  const int left = givesAway ? std::max(0, rect.width() - WidthOf(line)) : 0;
   const auto spacers = static_cast<int>(std::count_if(line.begin(), line.end(), isSpacer));
-  const int slack = spacers ? std::max(0, rect.width() - WidthOf(line)) / spacers : 0;
+  const int slack = spacers && !givesAway ? std::max(0, rect.width() - WidthOf(line)) / spacers : 0;
   int x = rect.left();
   for (auto* item : line) {
-    const QSize size = isSpacer(item) ? QSize(slack, 0) : NeedOf(*item);
+    QSize size = isSpacer(item) ? QSize(slack, 0) : NeedOf(*item);
+    if (isStretched(item)) size.rwidth() += left;
     // A label's text is centred like that of the field beside it.
     const bool isLabel = qobject_cast<QLabel*>(item->widget()) != nullptr;
     const int height = isLabel ? rect.height() : std::min(rect.height(), size.height());

@@ -15,6 +15,8 @@ class FlowLayout : public QLayout {
   void AddWidget(QWidget* widget) { addWidget(widget); }
   void AddLayout(QLayout* layout);
   void AddStretch();
+  /// The one widget that takes the room left over in its line.
+  void AddStretched(QWidget* widget);
 
   void addItem(QLayoutItem* item) override { items_.append(item); }
   int count() const override { return static_cast<int>(items_.size()); }
@@ -34,6 +36,7 @@ class FlowLayout : public QLayout {
   void Place(const Line& line, const QRect& rect) const;
 
   QList<QLayoutItem*> items_;
+  QWidget* stretched_ = nullptr;
 };
 
 }  // namespace norvane::ui

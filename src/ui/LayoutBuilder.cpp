@@ -246,7 +246,7 @@ LayoutBuilder::Piece LayoutBuilder::BuildStrip(const Node& node, QWidget& page) 
     const bool isApart = saves && HasIcon(child, "delete");
     if (isApart) flow.AddWidget(Rule(*strip));
     const Piece piece = Build(child, *strip);
-    if (piece.widget) flow.AddWidget(piece.widget);
+    if (piece.widget) child.stretch > 0 ? flow.AddStretched(piece.widget) : flow.AddWidget(piece.widget);
     if (piece.layout) flow.AddLayout(piece.layout);
     if (isApart) flow.AddWidget(Rule(*strip));
   }

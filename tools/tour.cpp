@@ -77,7 +77,12 @@ void Save(QWidget& window, const fs::path& file) {
 
 /// Draws the stop's screen; returns the problem found, empty if there is none.
 std::string Photograph(const Stop& stop, ui::Theme theme, const fs::path& data, const Target& target) {
-  Visit visit(stop, theme, Date(sample::ToDay(kDay) + kMorning), data);
+  // What a visit enters must not show in the next one.
+  const QTemporaryDir own;
+  const fs::path folder = own.path().toStdString();
+  fs::copy(data, folder,
+           fs::copy_options::recursive | fs::copy_options::copy_symlinks | fs::copy_options::overwrite_existing);
+  Visit visit(stop, theme, Date(sample::ToDay(kDay) + kMorning), folder);
   return visit.Make([&](Form& form, QWidget& window) {
     const std::string picture(stop.picture);
     visit.Settle();

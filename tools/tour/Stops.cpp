@@ -27,14 +27,10 @@ const std::vector<Stop>& Stops() {
       {"clients-typed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "be"}}},
       {"clients-missed", "Customer", {kClient, {Type, "Customer", "CustList2", 1, 1, "zq"}}},
       {"question", "Customer", {kClient, {Choose, "Customer", "mnuDelete"}}, Stop::Shot::Box},
-<<<<<<< HEAD
-      {"find", "frmFind", {{Choose, "Customer", "mnuFind"}, {Type, "frmFind", "txtFind", 1, 1, "oak"}}},
       {"tool-tip", "Customer", {kClient, {Hover, "Customer", "btnNewInvoice"}}},
-=======
       {"find", "frmFind", {{Choose, "Customer", "mnuFind"}, {Type, "frmFind", "txtFind", 1, 1, "electric"}}},
       {"overview", "frmOverview", {{Choose, "Customer", "mnuOverview"}}},
       {"overview-empty", "frmOverview", {{Choose, "Customer", "mnuOverview"}}, Stop::Shot::Screen, true},
->>>>>>> 2630113 (Show how the business stands on one page, as View, Overview)
       {"help", "Customer", {{Choose, "Customer", "mnuContents"}}, Stop::Shot::Help},
       {"empty", "Customer", {}, Stop::Shot::Screen, true},
       {"splash", "intro", {{Show, "intro"}}},

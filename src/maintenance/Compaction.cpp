@@ -4,8 +4,11 @@
 #include <cctype>
 
 #include "core/FileSystem.h"
+#include "core/Trap.h"
 #include "forms/Program.h"
 #include "maintenance/KeptCopies.h"
+#include "maintenance/Leftovers.h"
+#include "maintenance/Rescue.h"
 #include "maintenance/Working.h"
 #include "store/DatabaseFile.h"
 
@@ -14,6 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::int32_t kUnrecognized = 3343;
 constexpr double kKilobyte = 1024;
 constexpr double kMegabyte = kKilobyte * 1024;
 constexpr double kGigabyte = kMegabyte * 1024;
@@ -67,13 +71,18 @@ bool CompactDatabaseFile(Program& program, const std::string& fileName) {
   const fs::path database = program.workspace.applicationFolder / fileName;
   const fs::path backup = program.workspace.applicationFolder / ("BackupOf" + fileName);
   bool succeeded = false;
+  std::int32_t failure = 0;
   try {
     const Sizes sizes = RepairAndCompact(program, database, backup);
     succeeded = true;
     ShowSizes(desktop, fileName, sizes);
   } catch (const RuntimeError& error) {
+    failure = error.Number();
     ShowError(desktop, error);
   }
+  // What follows is no part of the compaction: its result and its boxes are as ever.
+  if (failure == kUnrecognized && FileExists(Located(database))) OfferRescue(program, fileName);
+  if (succeeded) IgnoringErrors([&] { OfferToRemoveLeftovers(program, fileName); });
   desktop.SetMousePointer(MousePointer::Default);
   return succeeded;
 }

@@ -23,6 +23,7 @@ inline constexpr std::string_view kFirstStart = "first start";
 inline constexpr std::string_view kBeforeRestore = "before restore";
 inline constexpr std::string_view kBeforeCompaction = "before compaction";
 inline constexpr std::string_view kBeforeDeletion = "before deletion";
+inline constexpr std::string_view kBeforeRemoval = "before removal";
 
 /// Keeps a copy now. A missing database gives none, and is no failure.
 void KeepCopy(Program& program, std::string_view reason);

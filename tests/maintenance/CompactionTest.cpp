@@ -80,7 +80,10 @@ TEST_F(CompactionTest, LeavesWhatIsNoSoundDatabaseAsItIs) {
   for (const std::string& content : {Bytes(live), torn, none, std::string(5000, 'x'), sound.substr(0, 8192)}) {
     Put(live, content);
     const auto before = AllFiles();
-    Fail(unrecognized);
+    desktop.Expect("CompactDatabase Error");
+    desktop.Expect("Try to save what can be read?", Answer::No);
+    EXPECT_FALSE(CompactDatabaseFile(program, "norvane.mdb"));
+    EXPECT_EQ(desktop.boxes[desktop.boxes.size() - 2].text, unrecognized);
     EXPECT_EQ(AllFiles(), before);
   }
   fs::remove(live);
@@ -103,6 +106,31 @@ TEST_F(CompactionTest, RebuildsAnIndexThatMissesRows) {
   EXPECT_TRUE(CompactDatabaseFile(program, "norvane.mdb"));
   EXPECT_EQ(database.Cell("PRAGMA integrity_check"), "ok");
   EXPECT_EQ(Clients(), clients);
+}
+
+TEST_F(CompactionTest, SavesWhatCanBeReadOfADamagedDatabase) {
+  Bloat();
+  database.Execute(
+      "insert into tb_Invoice (InvoiceNum, CustNum) select CustNum, CustNum from tb_Client;"
+      "insert into tb_trans (TransNum, InvoiceNum) values (1, 2050)");
+  const std::string root = database.Cell("SELECT rootpage FROM sqlite_master WHERE name = 'tb_Client'");
+  std::string damaged = Bytes(live);
+  damaged.replace(static_cast<std::size_t>(std::stol(root) - 1) * 4096, 8, "damaged!");
+  Put(live, damaged);
+  ExpectBoxes({"CompactDatabase Error"});
+  desktop.Expect("Try to save what can be read?", Answer::Yes);
+  desktop.Expect("What could be read has been saved.");
+  desktop.Expect("a client or an invoice that is no longer there", Answer::Yes);
+  EXPECT_FALSE(CompactDatabaseFile(program, "norvane.mdb"));
+  const std::string report = desktop.boxes[2].text;
+  EXPECT_THAT(report, HasSubstr("Clients:\t0 saved, perhaps some missing"));
+  EXPECT_THAT(report, HasSubstr("Invoices:\t100 saved\r\nInvoice lines:\t1 saved\r\n"));
+  EXPECT_THAT(report, HasSubstr("kept as norvane damaged 2026-11-22 14.29.00.mdb."));
+  EXPECT_THAT(LastBox().text, HasSubstr("Invoices:\t100\r\nInvoice lines:\t1\r\nPayments:\t0"));
+  EXPECT_EQ(Bytes(database.Folder() / "norvane damaged 2026-11-22 14.29.00.mdb"), damaged);
+  EXPECT_EQ(database.Cell("SELECT (SELECT count(*) FROM tb_Invoice) + (SELECT count(*) FROM tb_trans)"), "0");
+  desktop.Expect("compacted/repaired successfully");
+  EXPECT_TRUE(CompactDatabaseFile(program, "norvane.mdb"));
 }
 
 TEST_F(CompactionTest, WritesSizesInTheirUnit) {

@@ -4,7 +4,6 @@
 #include <cctype>
 
 #include "core/FileSystem.h"
-#include "core/Trap.h"
 #include "forms/Program.h"
 #include "maintenance/KeptCopies.h"
 #include "maintenance/Leftovers.h"
@@ -76,13 +75,12 @@ bool CompactDatabaseFile(Program& program, const std::string& fileName) {
     const Sizes sizes = RepairAndCompact(program, database, backup);
     succeeded = true;
     ShowSizes(desktop, fileName, sizes);
+    OfferToRemoveLeftovers(program, fileName);
   } catch (const RuntimeError& error) {
     failure = error.Number();
     ShowError(desktop, error);
   }
-  // What follows is no part of the compaction: its result and its boxes are as ever.
-  if (failure == kUnrecognized && FileExists(Located(database))) OfferRescue(program, fileName);
-  if (succeeded) IgnoringErrors([&] { OfferToRemoveLeftovers(program, fileName); });
+  if (!succeeded && failure == kUnrecognized && FileExists(Located(database))) OfferRescue(program, fileName);
   desktop.SetMousePointer(MousePointer::Default);
   return succeeded;
 }

@@ -25,7 +25,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 12> kNames =
     {"tb_Receive", "Payments of clients"},
     {"tb_Inventory", "Items"},
     {"tb_InvCategories", "Item categories"},
-    {"tb_Vendor", "Vendors"},
+    {"tb_Vendor", "Vendor companies"},
     {"tb_GL", "Register entries"},
     {"tb_Company", "Company"},
     {"tb_PaymentTypes", "Payment types"},

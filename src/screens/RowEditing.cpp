@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/Trap.h"
+#include "store/Recordset.h"
 
 namespace norvane {
 
@@ -186,6 +187,16 @@ void RowEditing::Close() {
 }
 
 // Rows that come and go.
+
+void RowEditing::Fill(Object<Recordset> list, const std::function<std::string(const Recordset&)>& texts) {
+  grid_.SetTopRow(1);
+  if (list->RecordCount() > 0) list->MoveFirst();
+  for (; !list->Eof(); list->MoveNext()) grid_.AddItem(texts(*list));
+  grid_.SetRows(list->RecordCount() + 1);
+  if (grid_.Rows() > 1) return;
+  grid_.SetRows(2);
+  SetMarker(1, "*");
+}
 
 void RowEditing::RemoveRow(std::int32_t row) {
   grid_.RemoveItem(row);

@@ -71,6 +71,9 @@ class RowEditing {
   /// isn't reported again. True if the routine came to its end.
   bool ReadRow(std::string_view label, std::int32_t row, const std::function<void()>& routine);
 
+  /// Fills the grid with the rows that `texts` makes of the list's, read from its beginning. An empty list gives one
+  /// empty row, marked as new.
+  void Fill(Object<Recordset> list, const std::function<std::string(const Recordset&)>& texts);
   /// The grid is filled again: no row of before waits any more.
   void StartOver();
   /// The screen closes: tries what waits a last time. The program's flag of a pending edit ends here.

@@ -32,18 +32,9 @@ void ShippingTypes::Form_Load() {
   Trapped("ShippingTypes.Form_Load -", [&] {
     ShippingList.Clear();
     ShippingList.SetColumns({{"^", 300}, {"Service", 2000}, {"Weight", 1400}, {"Charge", 700}});
-    ShippingList.SetTopRow(1);
-    const Object<Recordset> options = globals.rsShippingTypes;
-    if (options->RecordCount() > 0) options->MoveFirst();
-    for (; !options->Eof(); options->MoveNext()) {
-      ShippingList.AddItem(GridRow(
-          {"", options->Text("Service"), options->Text("Option"), convert.CurrencyText(options->Field("charge"))}));
-    }
-    ShippingList.SetRows(options->RecordCount() + 1);
-    if (ShippingList.Rows() == 1) {
-      ShippingList.SetRows(2);
-      rows_.SetMarker(1, "*");
-    }
+    rows_.Fill(globals.rsShippingTypes, [&](const Recordset& type) {
+      return GridRow({"", type.Text("Service"), type.Text("Option"), convert.CurrencyText(type.Field("charge"))});
+    });
   });
 }
 

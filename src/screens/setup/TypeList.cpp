@@ -24,14 +24,7 @@ void TypeList::Form_Load() {
   Trapped(kind_.labels.formLoad, [&] {
     PaymentList.Clear();
     PaymentList.SetColumns({{"^", 300}, {kind_.heading, 1500}});
-    PaymentList.SetTopRow(1);
-    if (List().RecordCount() > 0) List().MoveFirst();
-    for (; !List().Eof(); List().MoveNext()) PaymentList.AddItem(GridRow({"", List().Text("Type")}));
-    PaymentList.SetRows(List().RecordCount() + 1);
-    if (PaymentList.Rows() == 1) {
-      PaymentList.SetRows(2);
-      rows_.SetMarker(1, "*");
-    }
+    rows_.Fill(globals.*kind_.list, [](const Recordset& type) { return GridRow({"", type.Text("Type")}); });
   });
 }
 

@@ -39,7 +39,6 @@ class TypeList : public Form {
   Button btnExit{*this, "btnExit", {.caption = "&Exit", .icon = "exit"}};
 
  protected:
-  Recordset& List() const { return *(globals.*kind_.list); }
   virtual void btnExit_Click();
 
  private:

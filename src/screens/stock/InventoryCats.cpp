@@ -37,17 +37,9 @@ void InventoryCats::Form_Load() {
   Trapped("InventoryCats.Form_Load -", [&] {
     InventoryList.Clear();
     InventoryList.SetColumns({{"^", 300}, {"Category#", 0}, {"Description", 1500}});
-    InventoryList.SetTopRow(1);
-    const Object<Recordset> categories = globals.rsCategories;
-    if (categories->RecordCount() > 0) categories->MoveFirst();
-    for (; !categories->Eof(); categories->MoveNext()) {
-      InventoryList.AddItem(GridRow({"", categories->Text("CatNum"), categories->Text("description")}));
-    }
-    InventoryList.SetRows(categories->RecordCount() + 1);
-    if (InventoryList.Rows() == 1) {
-      InventoryList.SetRows(2);
-      rows_.SetMarker(1, "*");
-    }
+    rows_.Fill(globals.rsCategories, [](const Recordset& category) {
+      return GridRow({"", category.Text("CatNum"), category.Text("description")});
+    });
   });
 }
 

@@ -88,6 +88,7 @@ const std::vector<Stop>& Stops() {
       {"print-best-sellers", "PrtInventoryBestSales", {{Choose, "Customer", "mnuBestSellers"}}},
       {"print-to-order", "PrtBackOrders", {kOrdering}},
       {"print-ordered", "PrtBackOrdered", {{Choose, "Customer", "mnuOrdered"}}},
+      {"print-filled", "PrtBackOrderFill", {{Choose, "Customer", "mnuFillBackOrders"}, {Show, "PrtBackOrderFill"}}},
 
       {"backup", "frmBackup", {{Choose, "Customer", "mnuBackup"}}},
       {"restore", "frmRestore", {{Choose, "Customer", "mnuRestore"}}},

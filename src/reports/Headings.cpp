@@ -76,4 +76,8 @@ void WriteStatementHead(pages::DocumentBuilder& document, const CompanyHeading& 
   document.WriteParagraph("");
 }
 
+std::string MailAddressOf(const Client& client) {
+  return client.BillEmail.empty() ? client.Email : client.BillEmail;
+}
+
 }  // namespace norvane

@@ -39,4 +39,7 @@ void WriteBillTo(pages::DocumentBuilder& document, const Client& client);
 /// The head of a statement or receipt: company, client and an empty line.
 void WriteStatementHead(pages::DocumentBuilder& document, const CompanyHeading& company, const Client& client);
 
+/// Where a client's bills are sent by mail: to the billing address if there is one.
+std::string MailAddressOf(const Client& client);
+
 }  // namespace norvane

@@ -43,6 +43,7 @@ void PrtBilling::PrintSelectedClient(const Billing& criteria, const CompanyHeadi
   convert.ToDate(criteria.CustList2.Cell(row, Billing::kLastDate));
   const Statement statement = ReadStatement(criteria);
   StartReport("Statement " + globals.CurClientName + " " + convert.ToText(desktop.Today()));
+  VSInvoice.SetLetter({MailAddressOf(*globals.oClient), "Statement " + convert.ToText(desktop.Today())});
   WriteStatement(statement, company);
   VSInvoice.SetFooter(kThanksFooter);
   VSInvoice.EndDocument();

@@ -41,6 +41,7 @@ void PrtInvoice::Form_Load() {
     const Object<Client> client = globals.oClient;
     ReadClient(client, order.CustNum);
     StartReport("Invoice " + number);
+    VSInvoice.SetLetter({MailAddressOf(*client), "Invoice " + number});
     VSInvoice.SetHeader("||Invoice #" + number);
     WriteCompanyHeading(VSInvoice, company, "Remit to: " + company.Name);
     WriteBillTo(VSInvoice, *client);

@@ -30,6 +30,7 @@ void PrtReceipt::Form_Load() {
     const Object<Recordset> payments = invoice->AllPayments(opening, custNum);
 
     StartReport("Receipt " + globals.CurClientName + " " + convert.ToText(globals.ReceiptDate));
+    VSInvoice.SetLetter({MailAddressOf(*client), "Receipt " + convert.ToText(globals.ReceiptDate)});
     WriteStatementHead(VSInvoice, company, *client);
     // The day shown is yesterday, whatever the day of the opening balance.
     StatementTable table(VSInvoice, convert, desktop.Today() - 1, balance);

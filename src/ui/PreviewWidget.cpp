@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "ui/Convert.h"
+#include "ui/MailProgram.h"
 #include "ui/PagePdf.h"
 #include "ui/PagePrinter.h"
 #include "ui/Shortcuts.h"
@@ -120,6 +121,9 @@ void PreviewWidget::BuildBar() {
                   [this](Preview& p) { ShowSaved(SavePagesAsPdf(p.Pages(), ToQt(p.Title()), window())); });
   save_->setShortcut(QKeySequence::Save);
   for (QPushButton* tool : {print_, save_}) tool->setToolTip(WithKey(tool->toolTip(), tool->shortcut()));
+  send_ = AddTool("mail", "Send by Mail", [this](Preview& p) {
+    if (p.SentAs()) SendPages(p.Pages(), ToQt(p.Title()), *p.SentAs(), window());
+  });
   BuildSaved();
 }
 
@@ -212,6 +216,8 @@ void PreviewWidget::FollowBar() {
   last_->setEnabled(current < count);
   print_->setEnabled(count > 0);
   save_->setEnabled(count > 0);
+  send_->setEnabled(count > 0);
+  send_->setVisible(preview_->SentAs().has_value());
 }
 
 void RegisterPreview(WidgetFactory& factory) {

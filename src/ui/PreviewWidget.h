@@ -47,7 +47,7 @@ class PreviewWidget : public QFrame {
   QLabel* surplus_ = nullptr;  ///< how many rows the forms have no room for
   QPushButton* zoom_ = nullptr;
   QPushButton *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
-  QPushButton *print_ = nullptr, *save_ = nullptr;
+  QPushButton *print_ = nullptr, *save_ = nullptr, *send_ = nullptr;
   QWidget* saved_ = nullptr;
   QLabel* savedAs_ = nullptr;
   QString file_;  ///< the PDF saved last

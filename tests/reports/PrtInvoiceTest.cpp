@@ -144,6 +144,17 @@ TEST_F(PrtInvoiceTest, IsAWindowOfItsOwn) {
   EXPECT_EQ(Open<PrtInvoice>().VSInvoice.Title(), "Invoice 1002");
 }
 
+TEST_F(PrtInvoiceTest, IsSentToTheAddressForBillsIfThereIsOne) {
+  const auto address = [this] {
+    const std::string sentTo = Open<PrtInvoice>().VSInvoice.SentAs()->address;
+    return program.screens.Unload("PrtInvoice"), sentTo;
+  };
+  database.Execute("UPDATE tb_Client SET Email = 'ada@byron.example'");
+  EXPECT_EQ(address(), "ada@byron.example");
+  database.Execute("UPDATE tb_Client SET BillEmail = 'bills@byron.example'");
+  EXPECT_EQ(address(), "bills@byron.example");
+}
+
 TEST_F(PrtInvoiceTest, ADeletedInvoiceOrClientLeavesItsPlacesEmpty) {
   AddLine("1", "10000");
   Open<PrtInvoice>().Unload();

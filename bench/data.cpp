@@ -80,11 +80,11 @@ constexpr const char* kInvoices =
 void BalanceByHand(const test::Database& database, int custNum, int day) {
   bench::ByHand connection(database.File());
   std::vector<std::pair<int, int>> invoices;
-  connection.Each(
-      std::string(kInvoices) +
-          "HAVING tb_Client.CustNum = ?1 AND tb_Invoice.Date > 29587 ORDER BY tb_Invoice.InvoiceNum DESC",
-      {custNum},
-      [&](sqlite3_stmt* row) { invoices.emplace_back(sqlite3_column_int(row, 3), sqlite3_column_int(row, 4)); });
+  connection.Each(std::string(kInvoices) +
+                      "HAVING tb_Client.CustNum = ?1 AND tb_Invoice.Date > 29587 ORDER BY tb_Invoice.InvoiceNum DESC",
+                  {custNum}, [&](sqlite3_stmt* row) {
+                    invoices.emplace_back(sqlite3_column_int(row, 3), sqlite3_column_int(row, 4));
+                  });
   double balance = 0;
   for (const auto& [date, number] : invoices) {
     if (date > day) continue;
@@ -155,8 +155,8 @@ void GetAllInvoicesOver50000(benchmark::State& state) {
                           sqlite3_column_int64(row, 6), sqlite3_column_int64(row, 7), sqlite3_column_int64(row, 8),
                           sqlite3_column_int64(row, 9), bench::ByHand::Text(row, 10)});
         };
-        connection.Each(
-            std::string(kInvoices) + "HAVING tb_Invoice.Date > 30000 ORDER BY tb_Invoice.InvoiceNum DESC", {}, take);
+        connection.Each(std::string(kInvoices) + "HAVING tb_Invoice.Date > 30000 ORDER BY tb_Invoice.InvoiceNum DESC",
+                        {}, take);
         benchmark::DoNotOptimize(rows);
       },
       1.6);

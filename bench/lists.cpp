@@ -103,10 +103,10 @@ BENCHMARK(SalesOf1000Items)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void StockOf20000ItemsAsPdf(benchmark::State& state) {
   bench::ReportProgram office;
-  office.database.Execute(
-      bench::ReportProgram::Count(20'000) +
-      "insert into tb_Inventory (ItemNum, CatNum, Description, Charge, Par, InStock, Warranty) select i, 1, 'Oak table, "
-      "model ' || i, i * 1700, 5, i % 40, 'Two years' from n");
+  office.database.Execute(bench::ReportProgram::Count(20'000) +
+                          "insert into tb_Inventory (ItemNum, CatNum, Description, Charge, Par, InStock, Warranty) "
+                          "select i, 1, 'Oak table, "
+                          "model ' || i, i * 1700, 5, i % 40, 'Two years' from n");
   office.program.screens.Show(PrtInventory::kName);
   bench::CompareAsPdf(state, *office.program.screens.Touch<PrtInventory>().VSregistry.Recorded());
 }

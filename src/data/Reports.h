@@ -24,8 +24,8 @@ class Reports : public DataObject {
   Currency Receipts();
   /// What was sold of each item: ItemNum, Category, Description, Qty, TotalSales, the last being the sum of the lines.
   Object<Recordset> rsInventorySales();
-  /// The totals of all invoices. Replaces the shared oInvoice for its work, and leaves nothing in its place. Calls `step`
-  /// after each invoice.
+  /// The totals of all invoices. Replaces the shared oInvoice for its work, and leaves nothing in its place. Calls
+  /// `step` after each invoice.
   Currency TotalSales(const std::function<void()>& step = [] {});
 };
 

@@ -54,8 +54,8 @@ struct Grid::Model {
   bool marking = false;         ///< the cursor moves without an end to the marks
 
   GridColumn& Column(int at) { return columns[static_cast<std::size_t>(at)]; }
-  /// The item of its column's list that a cell holds, -1 for none: in a keyed list one that was chosen, since a text may
-  /// look like a key.
+  /// The item of its column's list that a cell holds, -1 for none: in a keyed list one that was chosen, since a text
+  /// may look like a key.
   int ItemAt(int atRow, int atCol) const {
     const GridColumn& column = columns[static_cast<std::size_t>(atCol)];
     return column.IsKeyed() && !table.HoldsKey(atRow, atCol) ? -1 : column.ItemOf(table.Cell(atRow, atCol));

@@ -69,7 +69,7 @@ struct Page {
   std::vector<Box> boxes;   ///< in the order of painting
   std::vector<Link> links;  ///< the later ones lie above
   std::string text;         ///< of all runs, one after the other
-  int surplusRows = 0;  ///< rows for which the forms on this page have no room
+  int surplusRows = 0;      ///< rows for which the forms on this page have no room
 
   std::string_view TextOf(const TextRun& run) const { return std::string_view(text).substr(run.begin, run.length); }
   /// The link above a place; null where there is none.

@@ -73,7 +73,7 @@ void Grid::UserMarkTo(int row) {
     const Marking marking(model_->marking);
     UserClick(row, Col());
   }
-  MarkFrom(from);
+  if (Parent().IsLoaded()) MarkFrom(from);
 }
 
 bool Grid::MarkBy(Key key, KeyModifiers modifiers) {
@@ -91,7 +91,8 @@ bool Grid::MarkBy(Key key, KeyModifiers modifiers) {
 void Grid::MarkFrom(int row) {
   row = std::min(row, model_->LastRow());
   if (row < 1 || Row() < 1) return;
-  const auto [first, last] = std::minmax(row, Row());
+  const int first = std::min(row, Row());
+  const int last = std::max(row, Row());
   model_->marks.assign(static_cast<std::size_t>(Rows()), false);
   std::fill(model_->marks.begin() + first, model_->marks.begin() + last + 1, true);
   model_->markFrom = row;

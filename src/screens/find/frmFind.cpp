@@ -48,6 +48,7 @@ void frmFind::Form_Load() {
     }
     FoundList.SetColumns(
         {{"", 1500}, {"Found", 3200}, {"Details", 3400}, {"Date", 1000}, {">Amount", 1100}, {"", 0}, {"", 0}});
+    FoundList.SetSortable(false);  // rows without a group belong to the one above
     FoundList.SetRows(1);
     BeginSearch();
   });

@@ -44,6 +44,7 @@ frmOverview::frmOverview(Program& host)
 
 void frmOverview::Form_Load() {
   OverviewPage.SetChoice(ZoomChoice::PageWidth);
+  FigureList.SetSortable(false);  // a row opens the figure of its place
   FigureList.SetFocus();
   ReadFigures();
 }

@@ -253,7 +253,7 @@ TEST_F(RegistryTest, TextsOfAllKindsAreStoredAsTypedOrRefusedInARowThatKeepsThem
   EXPECT_EQ(Entries().at(1), "1002|46330||||60000|0|70000|its");
 }
 
-TEST_F(RegistryTest, ADatabaseThatIsGoneOrLockedIsReportedAndTheProgramGoesOn) {
+TEST_F(RegistryTest, ALockedDatabaseIsReportedAndTheProgramGoesOn) {
   AddEntry(1001, 1, "1", 10, 0);
   OpenRegistry();
   {
@@ -266,6 +266,37 @@ TEST_F(RegistryTest, ADatabaseThatIsGoneOrLockedIsReportedAndTheProgramGoesOn) {
   List().UserKey(Key::Down);
   ExpectBalances();
   EXPECT_EQ(Entries().at(0).substr(0, 36), "1001|46327|1|Acme|Rent|120000|0|0|");
+}
+
+TEST_F(RegistryTest, ASaveRefusedBetweenItsStatementsTakesThatEntryAloneAndIsRepeated) {
+  const std::string gone(300, 'V');  // a vendor that isn't in the list
+  AddEntry(1001, 1, "1", 10, 0, gone);
+  AddEntry(1002, 2, "2", 20, 0);
+  OpenRegistry();
+  database.Execute("CREATE TRIGGER late BEFORE INSERT ON tb_GL BEGIN SELECT raise(abort, 'refused'); END");
+  Enter(List(), 1, GL::kPayment, "11");
+  desktop.Expect("Vendor.SaveLedgerEntry -");
+  List().UserKey(Key::Down);
+  EXPECT_EQ(database.Rows("SELECT TransNum FROM tb_GL"), std::vector<std::string>{"1002"});
+  database.Execute("DROP TRIGGER late");
+  EnterAndGoDown(List(), 1, GL::kPayment, "12");
+  EXPECT_EQ(Entries().at(0), "1001|46327|1|" + gone + "|Rent|120000|0|0|");
+  ExpectBalances();
+
+  std::filesystem::remove(database.File());
+  Enter(List(), 1, GL::kPayment, "13");
+  ExpectBoxes({"Vendor.SaveLedgerEntry -", "Vendor.LedgerCurrentBal -", "Vendor.LedgerEndBal -"});
+  List().UserKey(Key::Down);
+  EXPECT_FALSE(std::filesystem::exists(database.File()));
+}
+
+TEST_F(RegistryTest, WithoutTypesTheLoadEndsThere) {
+  database.Execute("DELETE FROM tb_ExpenseTypes");
+  Start();
+  desktop.Expect("GL.SetPayments -3021");
+  Main().btnPayments.Press();
+  EXPECT_EQ(List().Rows(), 2);
+  EXPECT_EQ(Connections(), 0);
 }
 
 }  // namespace

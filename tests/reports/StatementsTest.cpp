@@ -159,6 +159,19 @@ TEST_F(Statements, StopAtARowThatDoesNotConvert) {
   EXPECT_EQ(PagesOf(Print(OpenBilling()).VSInvoice).pages.size(), 1u) << "of no clients, one empty page";
 }
 
+TEST_F(Statements, OfAClientDeletedMeanwhileHaveNothingButTheOthersStay) {
+  AddEntries();
+  Billing& criteria = OpenBilling();
+  database.Execute(
+      "DELETE FROM tb_Client WHERE CustNum = 7; DELETE FROM tb_Receive; DELETE FROM tb_trans WHERE InvoiceNum IN "
+      "(SELECT InvoiceNum FROM tb_Invoice WHERE CustNum = 7); DELETE FROM tb_Invoice WHERE CustNum = 7");
+  Preview& preview = Print(criteria).VSInvoice;
+  ASSERT_EQ(PagesOf(preview).pages.size(), 2u);
+  EXPECT_THAT(Cells(preview), ElementsAre("5/31/2024", "Starting Balance", "$0.00"));
+  EXPECT_EQ(Cells(preview, 1).back(), "$12.50");
+  EXPECT_THAT(TextOf(preview), Not(HasSubstr("Mill Lane")));
+}
+
 TEST_F(Statements, HoldNineteenEntriesAndCountTheOthers) {
   for (int i = 0; i < 20; ++i) AddInvoice(kAda, 5, 100);
   AddPayment(kAda, 5, 100);

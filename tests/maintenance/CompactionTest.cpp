@@ -2,8 +2,15 @@
 #include <sqlite3.h>
 
 #include "MaintenanceTest.h"
+#include "data/Client.h"
+#include "data/Inventory.h"
+#include "data/Invoice.h"
 #include "data/cSetup.h"
 #include "maintenance/Compaction.h"
+#include "reports/BackOrderReport.h"
+#include "reports/RegisterReports.h"
+#include "screens/sales/CustInvoices.h"
+#include "screens/stock/BackOrderSet.h"
 
 namespace norvane::test {
 namespace {
@@ -63,6 +70,40 @@ TEST_F(CompactionTest, IsRefusedWhileTheDatabaseIsInUse) {
     EXPECT_FALSE(Fail(inUse));
   }
   EXPECT_EQ(AllFiles(), before);
+}
+
+TEST_F(CompactionTest, IsRefusedWhileAScreenKeepsItsConnection) {
+  RegisterReports(program);
+  database.Execute(
+      "INSERT INTO tb_Invoice (InvoiceNum, CustNum, Date, Discount, Tax, ShippingCharge, Interest, Shippingdate) "
+      "VALUES (1, 1002, 46300, 0, 0, 0, 0, 46300);"
+      "INSERT INTO tb_trans (TransNum, InvoiceNum, ItemNum, Qty, Amount, BackOrder) VALUES (1, 1, 7, 1, 10000, '-1');"
+      "INSERT INTO tb_Inventory VALUES (7, 1, 'Lamp', 10000, 1, -1, '')");
+  StartWithClients();
+  const std::string inUse = "3045: Could not use " + Named(live) + "; file already in use.";
+  const auto refused = [&](const char* screen, auto& connected) {
+    SCOPED_TRACE(screen);
+    EXPECT_EQ(Connections(), 1);
+    EXPECT_FALSE(Fail(inUse));
+    program.screens.Unload(screen);
+    connected.CloseCn();
+    EXPECT_EQ(Connections(), 0);
+  };
+  Main().mnuInStock.Choose();
+  refused("PrtInventory", *globals.oInventory);
+  Main().mnu30days.Choose();
+  refused("Prt30Days", *globals.oClient);
+  Main().mnuOrdering.Choose();
+  The<PrtBackOrders>().btnOrder.Press();
+  auto& dates = The<BackOrderSet>();
+  Enter(dates.InventoryList, 1, BackOrderSet::kOrderDate, "11/2/2026");
+  dates.btnSave.Press();
+  refused("BackOrderSet", *globals.oInvoice);
+  program.screens.Unload("PrtBackOrders");
+  Main().btnDetails.Press();
+  The<CustInvoices>().CmbInvoice.UserPick(1);  // all clients
+  The<CustInvoices>().btnGo.Press();
+  refused("CustInvoices", *globals.oInvoice);
 }
 
 TEST_F(CompactionTest, LeavesWhatIsNoSoundDatabaseAsItIs) {

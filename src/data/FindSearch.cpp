@@ -16,7 +16,7 @@ namespace norvane {
 namespace {
 
 constexpr std::size_t kLongestQuery = 200;   // bytes
-constexpr std::size_t kSlice = 1024 * 1024;  // bytes of the texts
+constexpr std::size_t kSlice = std::size_t{1} << 20;  // bytes of the texts
 
 // How well a text fits where it occurs.
 constexpr int kInside = 10;

@@ -85,6 +85,7 @@ std::string TabbedText(const Grid& grid, const std::vector<int>& rows) {
 std::string CsvText(const Grid& grid, const Conversions& convert) {
   const std::vector<int> columns = ShownColumns(grid);
   std::vector<CellKind> kinds;
+  kinds.reserve(columns.size());
   for (const int col : columns) kinds.push_back(KindOfCells(grid, col, convert));
   csv::Writer writer;
   for (const int col : columns) writer.Text(grid.Cell(0, col));

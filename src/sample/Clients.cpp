@@ -41,7 +41,8 @@ Name MakeName(Random& random, int place, int start) {
   const int firsts = static_cast<int>(FirstNames().size());
   const int lasts = static_cast<int>(LastNames().size());
   constexpr int kStep = 2'741;  // prime, and no divisor of the count of combinations
-  const int combination = static_cast<int>((static_cast<std::int64_t>(place) * kStep + start) % (firsts * lasts));
+  const int combination =
+      static_cast<int>((static_cast<std::int64_t>(place) * kStep + start) % (std::int64_t{firsts} * lasts));
   const std::string initial(1, static_cast<char>('A' + random.Below(20)));
   return {FirstNames()[static_cast<std::size_t>(combination % firsts)], random.Chance(30) ? initial + "." : "",
           LastNames()[static_cast<std::size_t>(combination / firsts)]};

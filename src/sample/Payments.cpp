@@ -25,7 +25,7 @@ class Payer {
 
   void PayInAdvance(const Invoice& invoice, Account& account) {
     const Day day = std::min(today_, invoice.day + random_.Between(1, 20));
-    Pay(invoice.client, IsSunday(day) ? day - 1 : day, random_.Between(1, 6) * 50 * kDollar, account);
+    Pay(invoice.client, IsSunday(day) ? day - 1 : day, Money{random_.Between(1, 6)} * 50 * kDollar, account);
   }
 
   std::vector<Payment> payments;

@@ -29,7 +29,7 @@ Stock::Stock(Random& random, const Order& order)
     const int make = place / static_cast<int>(articles.size());
     Item item{.number = kFirstKey + place, .category = article.category, .name = article.name};
     if (make > 0) item.name += ", make " + std::to_string(make + 1);
-    item.charge = article.price * 10 * kCent;
+    item.charge = Money{article.price} * 10 * kCent;
     item.par = article.par > 0 ? std::max(article.par, demand) : 0;
     item.inStock = item.par * 2;
     item.warranty = article.warranty;

@@ -189,10 +189,11 @@ void RowEditing::Close() {
 // Rows that come and go.
 
 void RowEditing::Fill(Object<Recordset> list, const std::function<std::string(const Recordset&)>& texts) {
+  const Object<Recordset> rows = std::move(list);
   grid_.SetTopRow(1);
-  if (list->RecordCount() > 0) list->MoveFirst();
-  for (; !list->Eof(); list->MoveNext()) grid_.AddItem(texts(*list));
-  grid_.SetRows(list->RecordCount() + 1);
+  if (rows->RecordCount() > 0) rows->MoveFirst();
+  for (; !rows->Eof(); rows->MoveNext()) grid_.AddItem(texts(*rows));
+  grid_.SetRows(rows->RecordCount() + 1);
   if (grid_.Rows() > 1) return;
   grid_.SetRows(2);
   SetMarker(1, "*");

@@ -15,7 +15,7 @@ struct FileIdentity {
   dev_t device = 0;
   ino_t inode = 0;
   std::int64_t birth = 0;
-  auto operator<=>(const FileIdentity&) const = default;
+  auto operator<=>(const FileIdentity&) const = default;  // NOLINT(modernize-use-nullptr): clang-tidy 14 errs
 
   /// Nothing if there is no such file.
   static std::optional<FileIdentity> Of(const std::filesystem::path& file);

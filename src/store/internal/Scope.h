@@ -13,7 +13,7 @@ namespace norvane::store {
 struct ColumnReference {
   std::size_t table = 0;
   std::size_t column = 0;
-  auto operator<=>(const ColumnReference&) const = default;
+  auto operator<=>(const ColumnReference&) const = default;  // NOLINT(modernize-use-nullptr): clang-tidy 14 errs
 };
 
 /// The tables that a statement names, and which columns are known to be equal.

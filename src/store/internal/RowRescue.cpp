@@ -266,7 +266,7 @@ void RowRescue::TakeLeaf(RescuedTable& table, const TreePage& page, PageNumber n
 
 /// After everything else, since what lies in the wrong place may be an old copy.
 void RowRescue::TakeUnplaced(RescuedTable& table) {
-  const std::vector<PageNumber> unplaced = std::move(table.unplaced);
+  const std::vector<PageNumber> unplaced = std::exchange(table.unplaced, {});
   for (const PageNumber number : unplaced) {
     if (!source_.Has(number)) continue;
     if (!visited_[number]) {

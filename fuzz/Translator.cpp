@@ -16,7 +16,7 @@
 #include "store/internal/SqlFunctions.h"
 #include "store/internal/Sqlite.h"
 
-namespace norvane {
+namespace norvane::store {
 namespace {
 
 constexpr const char* kWords[] = {
@@ -167,12 +167,12 @@ void Check(const Tables& tables, const std::string& statement) {
 }
 
 }  // namespace
-}  // namespace norvane
+}  // namespace norvane::store
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const norvane::Tables tables;
+  static const norvane::store::Tables tables;
   try {
-    norvane::Check(tables, norvane::StatementOf(data, size));
+    norvane::store::Check(tables, norvane::store::StatementOf(data, size));
   } catch (const norvane::RuntimeError&) {  // a refusal
   }
   return 0;

@@ -7,7 +7,7 @@ Value Text(const char* text) {
   return std::string(text);
 }
 Value Money(int cents) {
-  return Currency::FromTenThousandths(cents * 100);
+  return Currency::FromTenThousandths(cents * std::int64_t{100});
 }
 
 Value Sum(const Value& a, const Value& b) {

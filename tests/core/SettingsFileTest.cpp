@@ -124,7 +124,7 @@ TEST_F(SettingsFile, LeavesAReadOnlyOneAlone) {
 
 TEST_F(SettingsFile, SurvivesGarbage) {
   for (const std::string& content :
-       {std::string("\0\0[\0A]\0K=\0\n", 12), std::string("["), std::string("]\n[]\n=\n==\n"), std::string("[A\nK=1"),
+       {std::string("\0\0[\0A]\0K=\0\n", 11), std::string("["), std::string("]\n[]\n=\n==\n"), std::string("[A\nK=1"),
         std::string(1 << 20, '='), std::string("\r\r\n\r")}) {
     Put(content);
     Get("A", "K");

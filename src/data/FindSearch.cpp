@@ -15,7 +15,7 @@ namespace norvane {
 
 namespace {
 
-constexpr std::size_t kLongestQuery = 200;   // bytes
+constexpr std::size_t kLongestQuery = 200;            // bytes
 constexpr std::size_t kSlice = std::size_t{1} << 20;  // bytes of the texts
 
 // How well a text fits where it occurs.

@@ -46,7 +46,8 @@ bool ReadDay(std::string_view text, Day& day) {
   if (text.size() != 10 || !Read(text.substr(0, 4), year) || !Read(text.substr(5, 2), month) ||
       !Read(text.substr(8, 2), dayOfMonth))
     return false;
-  const std::chrono::year_month_day date = std::chrono::year{year} / month / dayOfMonth;
+  const std::chrono::year_month_day date =
+      std::chrono::year{year} / std::chrono::month{month} / std::chrono::day{dayOfMonth};
   if (date.ok()) day = ToDay(date);
   return date.ok();
 }

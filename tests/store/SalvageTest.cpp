@@ -151,7 +151,7 @@ TEST_F(SalvageTest, BringsNoFewerRowsThanTheShellAndNoWrongOnes) {
       EXPECT_EQ(Content(file), bytes);
     }
     for (const auto& [table, rows] : original) {
-      const auto isRight = [&](const std::string& row) { return rows.contains(row); };
+      const auto isRight = [&held = rows](const std::string& row) { return held.contains(row); };
       const auto right = std::ranges::count_if(ours[table], isRight);
       EXPECT_GE(right, std::ranges::count_if(shells.at(table), isRight)) << table;
       for (const std::string& row : ours[table]) {
